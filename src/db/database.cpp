@@ -1,0 +1,83 @@
+#include "database.h"
+
+#include "query.h"
+#include "schemaupgrade.h"
+
+#include <QFile>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QTextStream>
+
+#include <memory>
+
+// A resource in a static library is linked only when it is named; the macro does not work inside a namespace or class.
+static void initSqlResource() { Q_INIT_RESOURCE(sql); }
+
+Database::Database(const QString &connectionName, QObject *parent) : QObject(parent), m_connectionName(connectionName)
+{
+}
+
+Database::~Database() = default;
+
+void Database::close() { QSqlDatabase::removeDatabase(m_connectionName); }
+
+QSqlDatabase Database::connection(bool open) const { return QSqlDatabase::database(m_connectionName, open); }
+
+bool Database::transaction() { return connection(false).transaction(); }
+
+bool Database::commit() { return connection(false).commit(); }
+
+bool Database::rollback() { return connection(false).rollback(); }
+
+QString Database::lastError() const
+{
+    return m_lastError.isEmpty() ? connection(false).lastError().text().trimmed() : m_lastError;
+}
+
+bool Database::fail(const QString &message)
+{
+    m_lastError = message.trimmed();
+    return false;
+}
+
+Query *Database::query()
+{
+    QSqlQuery statement(connection(true));
+    statement.setForwardOnly(true);
+    return new Query(statement, this);
+}
+
+bool Database::createTables(const QString &script, const QString &sellerName)
+{
+    initSqlResource();
+    QFile file(script);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+        return fail(file.errorString());
+    QTextStream stream(&file);
+    QSqlQuery statement(connection(false));
+    QString line;
+    while (stream.readLineInto(&line)) {
+        if (!line.trimmed().isEmpty() && !statement.exec(line))
+            return fail(statement.lastError().text());
+    }
+    const std::unique_ptr<Query> records(query());
+    if (!transaction())
+        return fail(connection(false).lastError().text());
+    if (!records->addInitialData(sellerName)) {
+        fail(records->lastError());
+        rollback();
+        return false;
+    }
+    return commit() || fail(connection(false).lastError().text());
+}
+
+bool Database::upgradeStep(QSqlQuery &query, int fromVersion)
+{
+    const QStringList statements = SchemaUpgrade::statements(fromVersion, isSQLite());
+    for (const QString &sql : statements) {
+        if (!query.exec(sql))
+            return fail(query.lastError().text());
+    }
+    return true;
+}

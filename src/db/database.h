@@ -1,0 +1,86 @@
+#ifndef DATABASE_H
+#define DATABASE_H
+
+#include <QObject>
+#include <QString>
+
+class Query;
+class QSettings;
+class QSqlDatabase;
+class QSqlQuery;
+
+/**
+ * An open database of the invoicing system: one named Qt SQL connection, brought up to the current schema version.
+ * Operations report failure by false (or an empty result), with the text in lastError().
+ */
+class Database : public QObject {
+    Q_OBJECT
+public:
+    /** The version that this program writes and upgrades to. */
+    static constexpr int schemaVersion = 10;
+
+    ~Database() override;
+
+    /**
+     * Opens the database that the settings object is positioned on, creates it where that is allowed, and upgrades an
+     * older schema.
+     * @return false when it cannot be opened; a missing SQLite file gives true with exists() false
+     */
+    [[nodiscard]] virtual bool open(QSettings *settings) = 0;
+    virtual void close();
+
+    void setCreateIfNotExist(bool create) { m_createIfNotExist = create; }
+    bool isCreateIfNotExist() const { return m_createIfNotExist; }
+
+    virtual bool driverAvailable() const = 0;
+    /** @return whether the database existed before open() or was created by it */
+    bool exists() const { return m_exists; }
+
+    [[nodiscard]] virtual bool transaction();
+    [[nodiscard]] virtual bool commit();
+    virtual bool rollback();
+
+    /**
+     * Begins a transaction that reads and then writes, and waits for other writers of this program to finish theirs:
+     * what it reads stays true until the commit, so that no number is given twice.
+     */
+    [[nodiscard]] virtual bool beginWriting() = 0;
+
+    /**
+     * @return a number that changes whenever another connection commits a change, and only then; -1 when the backend
+     * cannot tell
+     */
+    virtual long long foreignChanges() { return -1; }
+
+    /** The text of the last failure. */
+    QString lastError() const;
+
+    /** @return a new statement on this connection, owned by the caller */
+    virtual Query *query();
+
+protected:
+    Database(const QString &connectionName, QObject *parent);
+
+    QSqlDatabase connection(bool open) const;
+    /** Runs a creation script from the resources, one statement a line, then writes the first records. */
+    bool createTables(const QString &script, const QString &sellerName);
+    /**
+     * Runs the statements of the step from a version to the next, up to the first that fails.
+     * @return the outcome of the last statement run
+     */
+    bool upgradeStep(QSqlQuery &query, int fromVersion);
+    /** Sets the text of lastError() and returns false. */
+    bool fail(const QString &message);
+
+    /** The variant of the schema upgrade's statements. */
+    virtual bool isSQLite() const = 0;
+
+    const QString m_connectionName;
+    bool m_createIfNotExist = false;
+    bool m_exists = false;
+
+private:
+    QString m_lastError;
+};
+
+#endif

@@ -1,0 +1,32 @@
+#ifndef POSTGRESQLDATABASE_H
+#define POSTGRESQLDATABASE_H
+
+#include "database.h"
+
+/** The server backend. Takes no backups: an upgrade happens in place. */
+class PostgreSQLDatabase : public Database {
+    Q_OBJECT
+public:
+    explicit PostgreSQLDatabase(QObject *parent = nullptr);
+
+    /**
+     * Reads the keys "host", "port", "databaseName", "username", "password" and, for a new database, "name" (the
+     * seller's name). An existing database without tables is filled.
+     */
+    bool open(QSettings *settings) override;
+    bool driverAvailable() const override;
+    bool beginWriting() override;
+    Query *query() override;
+
+protected:
+    bool isSQLite() const override { return false; }
+
+private:
+    /** Outcomes of upgrade() that are not a schema version. */
+    enum { noTables = -2, upgradeFailed = -1, noSettingsRow = 0 };
+
+    bool createDatabase(QSqlDatabase &database, const QString &name);
+    int upgrade();
+};
+
+#endif

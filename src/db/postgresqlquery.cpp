@@ -1,0 +1,23 @@
+#include "postgresqlquery.h"
+
+#include <QVariant>
+
+namespace {
+
+QString sequenceName(const char *table) { return QLatin1String(table) + QLatin1String("_id_seq"); }
+
+} // namespace
+
+QString PostgreSQLQuery::newIdExpression(const char *table) const
+{
+    return QLatin1String("nextval('") + sequenceName(table) + QLatin1String("')");
+}
+
+int PostgreSQLQuery::insertedId(const char *table) { return sequenceValue(sequenceName(table)); }
+
+int PostgreSQLQuery::sequenceValue(const QString &sequenceName)
+{
+    const bool found =
+        m_query.exec(QLatin1String("SELECT currval('") + sequenceName + QLatin1String("')")) && m_query.next();
+    return found ? m_query.value(0).toInt() : 0;
+}

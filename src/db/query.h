@@ -1,0 +1,154 @@
+#ifndef QUERY_H
+#define QUERY_H
+
+#include <QHash>
+#include <QObject>
+#include <QSqlQuery>
+#include <QString>
+
+class BankAccount;
+class Customer;
+class Invoice;
+class InvoiceCriteria;
+class InvoiceItem;
+class Payment;
+class PaymentCriteria;
+class PrintScript;
+class Product;
+class Settings;
+
+/**
+ * Every statement of the system, on one forward-only SQL statement object. A fetch prepares and executes; the rows are
+ * then stepped with next() (nextInvoice() after an invoice search) and read with the reader that belongs to the fetch.
+ * Operations return false on failure, with the text in lastError(); records are then unchanged.
+ *
+ * A fetch whose rows are not read to the end keeps the table locked for other programs' writes: call finish().
+ */
+class Query : public QObject {
+    Q_OBJECT
+public:
+    Query(const QSqlQuery &statement, QObject *parent);
+
+    QString lastError() const;
+    bool next() { return m_query.next(); }
+    bool last() { return m_query.last(); }
+    void finish() { m_query.finish(); }
+
+    // Lists and single records
+    [[nodiscard]] bool fetchBankAccounts();
+    [[nodiscard]] bool fetchCustomers();
+    [[nodiscard]] bool fetchProducts();
+    [[nodiscard]] bool fetchInvoiceDetails(int id);
+    [[nodiscard]] bool fetchInvoiceItems(int invoiceId);
+    [[nodiscard]] bool fetchInvoiceItem(int id);
+    [[nodiscard]] bool fetchPayments(int invoiceId);
+    [[nodiscard]] bool fetchPayment(int id);
+    [[nodiscard]] bool fetchPrintScriptSummaries();
+    [[nodiscard]] bool fetchPrintScriptDetails();
+    [[nodiscard]] bool fetchPrintScriptDetails(int id);
+    [[nodiscard]] bool fetchSettings();
+
+    // Searches; null criteria are not allowed except where said. The criteria must outlive the reading of the rows.
+    int fetchInvoiceCount(const InvoiceCriteria *c); ///< -1 on failure
+    [[nodiscard]] bool fetchInvoiceSummaries(const InvoiceCriteria *c);
+    [[nodiscard]] bool fetchInvoiceDetails(const InvoiceCriteria *c);
+    [[nodiscard]] bool fetchInvoiceItems(const InvoiceCriteria *c);
+    [[nodiscard]] bool fetchPayments(const PaymentCriteria *p);
+    [[nodiscard]] bool fetchPayments(const PaymentCriteria *p, const InvoiceCriteria *c);
+    [[nodiscard]] bool fetchInvoicesAndPayments(const PaymentCriteria *p);
+    [[nodiscard]] bool fetchInvoicesAndPayments(const InvoiceCriteria *c, const PaymentCriteria *p);
+    /** Steps to the next invoice that meets the payment state at the criteria's balance date. */
+    bool nextInvoice();
+
+    // Readers of the current row
+    void bankAccount(BankAccount *record) const;
+    void customer(Customer *record) const;
+    void product(Product *record) const;
+    void invoiceDetails(Invoice *record) const;
+    void invoiceSummary(Invoice *record) const;
+    void invoiceItem(InvoiceItem *record) const;
+    void payment(Payment *record) const;
+    void invoiceAndPayment(Invoice *invoice, Payment *payment) const;
+    void printScriptSummary(PrintScript *record) const;
+    void printScriptDetails(PrintScript *record) const;
+    void settings(Settings *record) const;
+
+    /** 1 makes invoiceSummary() tell each balance at the criteria's balance date instead of the stored one. */
+    void setInvoiceBalanceMode(int mode) { m_invoiceBalanceMode = mode; }
+    int invoiceBalanceMode() const { return m_invoiceBalanceMode; }
+
+    // Saving: a record with a negative id is inserted and gets its id, any other is updated.
+    [[nodiscard]] bool saveBankAccount(BankAccount *record);
+    [[nodiscard]] bool saveCustomer(Customer *record);
+    [[nodiscard]] bool saveInvoice(Invoice *record);
+    [[nodiscard]] bool saveInvoiceItem(InvoiceItem *record);
+    [[nodiscard]] bool savePayment(Payment *record);
+    [[nodiscard]] bool savePrintScript(PrintScript *record);
+    [[nodiscard]] bool saveProduct(Product *record);
+    [[nodiscard]] bool saveSettings(Settings *record); ///< updates the one row, or inserts it
+
+    // Deleting; bank accounts and customers are only marked. Nothing cascades. Ranges are inclusive, of invoice ids.
+    [[nodiscard]] bool deleteProduct(int id);
+    [[nodiscard]] bool deleteBankAccount(int id);
+    [[nodiscard]] bool deleteCustomer(int id);
+    [[nodiscard]] bool deleteInvoice(int id);
+    [[nodiscard]] bool deleteInvoicesBetween(int first, int last);
+    [[nodiscard]] bool deleteInvoiceItem(int id);
+    [[nodiscard]] bool deleteInvoiceItems(int invoiceId);
+    [[nodiscard]] bool deleteInvoiceItemsBetween(int first, int last);
+    [[nodiscard]] bool deletePayment(int id);
+    [[nodiscard]] bool deletePayments(int invoiceId);
+    [[nodiscard]] bool deletePaymentsBetween(int first, int last);
+    [[nodiscard]] bool deletePrintScript(int id);
+
+    int maxInvoiceNumber();           ///< 0 without invoices, -1 on failure
+    int maxCustomerNumber();          ///< of all customers, removed ones too; 0 without customers, -1 on failure
+    int nextRowNumber(int invoiceId); ///< one past the invoice's last row, 0 without rows, -1 on failure
+
+    /** Writes the settings row of a new database with its defaults, and the product of the interest on arrears. */
+    [[nodiscard]] bool addInitialData(const QString &sellerName);
+
+    /**
+     * Appends the criteria's conditions to a statement, each column with the prefix ("", "i."), after the keyword
+     * (" WHERE ", " AND ").
+     * @return false, with nothing touched, when the criteria set no condition
+     */
+    bool buildInvoiceWhereClause(const InvoiceCriteria *c, QString &sql, QList<QVariant> &params, const QString &prefix,
+                                 const QString &keyword) const;
+    /** @param c  may be null; only its balance date counts here */
+    bool buildPaymentWhereClause(const PaymentCriteria *p, const InvoiceCriteria *c, QString &sql,
+                                 QList<QVariant> &params, const QString &prefix, const QString &keyword) const;
+
+protected:
+    // What a backend does differently.
+    virtual QString newIdExpression(const char *table) const;
+    virtual int insertedId(const char *table);
+    virtual QString likeOperator() const { return QStringLiteral("LIKE"); }
+    virtual QString escapeClause() const { return QStringLiteral(" ESCAPE '\\'"); }
+
+    QSqlQuery m_query;
+
+private:
+    bool execute(const QString &sql, const QVariantList &values = {});
+    int firstInteger(const QString &sql, const QVariantList &values = {});
+    template <class Record> bool fetchAll(const char *order);
+    template <class Record> bool fetchWhere(const char *condition, int value, const char *rest = "");
+    template <class Record> bool insert(Record *record);
+    template <class Record> bool update(Record *record);
+    template <class Record> bool save(Record *record);
+
+    bool fetchPaymentAmounts(const InvoiceCriteria *c);
+    bool fetchInvoices(const QString &select, int totalColumn, const InvoiceCriteria *c);
+    void appendLimitedInvoices(const InvoiceCriteria *c, const QString &column, QString &sql, QList<QVariant> &params,
+                               const QString &keyword) const;
+    void appendInvoiceRestriction(const InvoiceCriteria *c, QString &sql, QList<QVariant> &params,
+                                  bool hasConditions) const;
+
+    bool m_prepareFailed = false;
+    const InvoiceCriteria *m_invoiceCriteria = nullptr; ///< of the last invoice search, not owned
+    QHash<int, int> m_paidAmounts;                      ///< invoice id: payments up to the balance date, cents
+    int m_totalColumn = -1;                             ///< column of the total in the current invoice search
+    int m_invoiceBalanceMode = 0;
+};
+
+#endif

@@ -1,0 +1,114 @@
+#ifndef REGISTRY_H
+#define REGISTRY_H
+
+#include <QHash>
+#include <QList>
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+
+class BankAccount;
+class Customer;
+class Database;
+class PrintScript;
+class Product;
+class QSettings;
+class Query;
+class Settings;
+
+/**
+ * What the whole run shares: the settings file, the open database, the seller settings and the cached lists. Records
+ * belong to the registry and live until their list is fetched again or the connection is dropped.
+ *
+ * The lists hold customers and bank accounts that are not removed; by id the removed ones are found too, so that old
+ * invoices and payments still show them.
+ */
+class Registry : public QObject {
+    Q_OBJECT
+public:
+    explicit Registry(QObject *parent = nullptr);
+    ~Registry() override;
+
+    /** @param fileName  a settings file, or empty for the user's own; its directory is created when missing */
+    void loadSettings(const QString &fileName);
+    QSettings *appSettings() const { return m_appSettings.get(); }
+
+    Database *database() const { return m_database; }
+    void setDatabase(Database *database) { m_database = database; }
+    bool isConnected() const { return m_connected; }
+    /** False empties all cached lists. */
+    void setConnected(bool connected);
+
+    Settings *settings() const { return m_settings.get(); }
+    QString username() const { return QString(); }
+
+    // Each replaces a cache by what the database holds now; on failure the cache is left as it was.
+    [[nodiscard]] bool fetchSettings(Query *query);
+    [[nodiscard]] bool fetchCustomers(Query *query);
+    [[nodiscard]] bool fetchProducts(Query *query);
+    [[nodiscard]] bool fetchBankAccounts(Query *query);
+    [[nodiscard]] bool fetchPrintScripts(Query *query);
+
+    // Each puts a saved record into its fetched list in place of the earlier version, where a fetch would put it.
+    void storeCustomer(const Customer &customer);
+    void storeProduct(const Product &product);
+    void storeBankAccount(const BankAccount &account);
+    void forgetProduct(int id);
+
+    // A negative id finds nothing; `found` is set to whether the result is not null.
+    int customerCount() const { return m_customers.size(); }
+    Customer *customer(int index) const { return m_customers.at(index); }
+    Customer *customerById(int id, bool &found) const;
+    Customer *customerByNumber(int number, bool &found) const;
+
+    int productCount() const { return m_products.size(); }
+    Product *product(int index) const { return m_products.at(index); }
+    Product *productById(int id, bool &found) const;
+    Product *productByNumber(const QString &number, bool &found) const;
+
+    int bankAccountCount() const { return m_bankAccounts.size(); }
+    BankAccount *bankAccount(int index) const { return m_bankAccounts.at(index); }
+    BankAccount *bankAccountById(int id, bool &found) const;
+    int bankAccountIndexById(int id) const; ///< -1 when it is not in the list
+
+    int printScriptCount() const { return m_printScripts.size(); }
+    PrintScript *printScript(int index) const { return m_printScripts.at(index); }
+    int printScriptIndexById(int id) const;
+    int printScriptIndexByType(const QString &type) const;
+
+    // The invoice scripts that are part of the program, as parallel lists.
+    static QList<int> builtInPrintScriptIds();
+    static QStringList builtInPrintScriptNames();
+    static QStringList builtInPrintScriptFilenames();
+
+    static QStringList availableLanguages();
+    /** `sv - ruotsi` gives `sv`. */
+    static QString parseLanguageCode(const QString &language);
+
+signals:
+    void customersFetched();
+    void productsFetched();
+    void bankAccountsFetched();
+
+private:
+    void deleteCustomers();
+    void deleteProducts();
+    void deleteBankAccounts();
+    void deletePrintScripts();
+
+    std::unique_ptr<QSettings> m_appSettings;
+    std::unique_ptr<Settings> m_settings;
+    Database *m_database = nullptr;
+    bool m_connected = false;
+
+    QList<Customer *> m_customers;
+    QHash<int, Customer *> m_customersById; ///< owns; holds the removed ones too
+    QList<Product *> m_products;            ///< owns
+    QHash<int, Product *> m_productsById;
+    QList<BankAccount *> m_bankAccounts;
+    QHash<int, BankAccount *> m_bankAccountsById; ///< owns; holds the removed ones too
+    QList<PrintScript *> m_printScripts;          ///< owns
+};
+
+#endif

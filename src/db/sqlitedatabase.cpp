@@ -1,0 +1,112 @@
+#include "sqlitedatabase.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+
+namespace {
+
+/** How long a statement waits for another program's lock before it fails. */
+constexpr int busyTimeoutMs = 5000;
+
+} // namespace
+
+SQLiteDatabase::SQLiteDatabase(QObject *parent) : Database(QStringLiteral("sqlite"), parent) {}
+
+SQLiteDatabase::~SQLiteDatabase() = default;
+
+bool SQLiteDatabase::driverAvailable() const { return QSqlDatabase::isDriverAvailable(QStringLiteral("QSQLITE")); }
+
+bool SQLiteDatabase::open(QSettings *settings)
+{
+    const QString filename = settings->value(QStringLiteral("filename")).toString();
+    if (filename.isEmpty())
+        return fail(tr("Tietokannan tiedostonimi puuttuu"));
+    m_exists = QFile::exists(filename); // before the connection: opening makes the file
+    QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connectionName);
+    database.setDatabaseName(filename);
+    database.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busyTimeoutMs));
+    if (!database.open())
+        return fail(tr("Tietokantaa %1 ei voi avata: %2").arg(filename, database.lastError().text().trimmed()));
+    if (!m_exists) {
+        if (!isCreateIfNotExist())
+            return true; // the caller looks at exists()
+        m_exists = createTables(QStringLiteral(":/sql/sqlite.sql"), settings->value(QStringLiteral("name")).toString());
+        if (!m_exists)
+            return false;
+    }
+    return upgrade(filename);
+}
+
+void SQLiteDatabase::close()
+{
+    m_dataVersion.reset();
+    Database::close();
+}
+
+bool SQLiteDatabase::beginWriting()
+{
+    // IMMEDIATE: a transaction that first reads and then wants to write could otherwise meet another one that does
+    // the same, and neither could go on.
+    QSqlQuery query(connection(false));
+    return query.exec(QStringLiteral("BEGIN IMMEDIATE")) || fail(query.lastError().text());
+}
+
+long long SQLiteDatabase::foreignChanges()
+{
+    if (!m_dataVersion) {
+        m_dataVersion = std::make_unique<QSqlQuery>(connection(false));
+        m_dataVersion->setForwardOnly(true);
+        m_dataVersion->prepare(QStringLiteral("PRAGMA data_version"));
+    }
+    const bool known = m_dataVersion->exec() && m_dataVersion->next();
+    const long long version = known ? m_dataVersion->value(0).toLongLong() : -1;
+    m_dataVersion->finish();
+    return version;
+}
+
+bool SQLiteDatabase::upgrade(const QString &filename)
+{
+    QSqlQuery query(connection(false));
+    query.exec(QStringLiteral("SELECT version FROM settings"));
+    if (!query.isActive())
+        return fail(tr("Tietokantaa %1 ei voi lukea: %2").arg(filename, query.lastError().text().trimmed()));
+    if (!query.next())
+        return true;
+    const int version = query.value(0).toInt();
+    query.finish(); // an open read would keep the tables from being altered
+    if (version < 1)
+        return true;
+    bool ok = true;
+    for (int from = version; from < schemaVersion; ++from) {
+        backup(filename);
+        ok = upgradeStep(query, from); // a failed step does not stop the later ones; the backups are there
+    }
+    return ok;
+}
+
+void SQLiteDatabase::backup(const QString &filename) const
+{
+    const QString stamp = QDateTime::currentDateTime().toString(QStringLiteral("yyyyMMdd-HHmmss"));
+    const QString target = QStringLiteral("%1/backup-%2.sqlite").arg(QFileInfo(filename).path(), stamp);
+    QFile::copy(filename, appendSuffixToFilename(target)); // a failure does not keep the database from opening
+}
+
+QString SQLiteDatabase::appendSuffixToFilename(const QString &name)
+{
+    if (!QFile::exists(name))
+        return name;
+    QString suffix = QFileInfo(name).completeSuffix();
+    if (!suffix.isEmpty())
+        suffix.prepend(QLatin1Char('.'));
+    const QString base = name.left(name.size() - suffix.size());
+    for (int i = 1;; ++i) {
+        const QString candidate = QStringLiteral("%1-%2%3").arg(base, QString::number(i), suffix);
+        if (!QFile::exists(candidate))
+            return candidate;
+    }
+}

@@ -1,0 +1,38 @@
+#ifndef SQLITEDATABASE_H
+#define SQLITEDATABASE_H
+
+#include "database.h"
+
+#include <memory>
+
+/** The embedded backend: one SQLite file, copied to a time-stamped backup beside it before every upgrade step. */
+class SQLiteDatabase : public Database {
+    Q_OBJECT
+public:
+    explicit SQLiteDatabase(QObject *parent = nullptr);
+    ~SQLiteDatabase() override;
+
+    /** Reads the keys "filename" and, for a new database, "name" (the seller's name). */
+    bool open(QSettings *settings) override;
+    void close() override;
+    bool driverAvailable() const override;
+    bool beginWriting() override;
+    long long foreignChanges() override;
+
+    /**
+     * @return the name itself when no such file exists, else the first free name with "-1", "-2", … before the suffix
+     * (all that follows the first dot of the file name)
+     */
+    static QString appendSuffixToFilename(const QString &name);
+
+protected:
+    bool isSQLite() const override { return true; }
+
+private:
+    bool upgrade(const QString &filename);
+    void backup(const QString &filename) const;
+
+    std::unique_ptr<QSqlQuery> m_dataVersion; ///< prepared once, run before every use of a cached list
+};
+
+#endif

@@ -1,0 +1,85 @@
+#include "decimalformat.h"
+
+#include "integer.h"
+
+#include <cstdlib>
+
+DecimalFormat::DecimalFormat(int fractionDigits, int minFractionDigits) : m_minFractionDigits(minFractionDigits)
+{
+    setFractionDigits(fractionDigits);
+    setLocale(QLocale::system());
+}
+
+void DecimalFormat::setFractionDigits(int digits)
+{
+    m_fractionDigits = digits;
+    m_divisor = 1;
+    for (int i = 0; i < digits; ++i)
+        m_divisor *= 10;
+}
+
+void DecimalFormat::setLocale(const QLocale &locale)
+{
+    m_locale = locale;
+    m_decimalPoint = locale.decimalPoint();
+}
+
+QString DecimalFormat::fraction(long long magnitude) const
+{
+    QString digits = QString::number(magnitude % m_divisor).rightJustified(m_fractionDigits, QLatin1Char('0'));
+    while (digits.size() > m_minFractionDigits && digits.endsWith(QLatin1Char('0')))
+        digits.chop(1);
+    return digits;
+}
+
+QString DecimalFormat::format(int value) const
+{
+    const long long magnitude = std::llabs(value);
+    QString text = m_locale.toString(magnitude / m_divisor);
+    if (value < 0)
+        text.prepend(QChar(0x2212));
+    const QString decimals = fraction(magnitude);
+    return decimals.isEmpty() ? text : text + m_decimalPoint + decimals;
+}
+
+QString DecimalFormat::formatWithoutGrouping(int value) const
+{
+    const long long magnitude = std::llabs(value);
+    QString text = QString::number(magnitude / m_divisor);
+    if (value < 0)
+        text.prepend(QLatin1Char('-'));
+    const QString decimals = fraction(magnitude);
+    return decimals.isEmpty() ? text : text + m_decimalPoint + decimals;
+}
+
+long long DecimalFormat::parse(const QString &text, bool &ok) const
+{
+    const bool negative = text.startsWith(QLatin1Char('-'));
+    const int start = negative ? 1 : 0;
+    const QStringView view(text);
+    int separator = text.indexOf(QLatin1Char(','));
+    if (separator < 0)
+        separator = text.indexOf(QLatin1Char('.'));
+
+    if (separator < 0) {
+        const long long value = static_cast<long long>(Integer::parse(view.mid(start), ok)) * m_divisor;
+        return negative ? -value : value;
+    }
+
+    ok = true;
+    long long value = separator == 0 ? 0 : Integer::parse(view.mid(start, separator - start), ok);
+    if (!ok)
+        return 0;
+    const bool integerNegative = value < 0;
+    value *= m_divisor;
+
+    const QStringView typed = view.mid(separator + 1);
+    if (!typed.isEmpty() && !Integer::isDigits(typed)) {
+        ok = false; // also where the offending character is beyond the scale and would be cut
+        return 0;
+    }
+    const QString decimals = typed.left(m_fractionDigits).toString().leftJustified(m_fractionDigits, QLatin1Char('0'));
+    const int fractionValue = Integer::parse(decimals, ok);
+    value += integerNegative ? -fractionValue : fractionValue;
+    return negative ? -value : value;
+}

@@ -1,0 +1,50 @@
+#ifndef DECIMALFORMAT_H
+#define DECIMALFORMAT_H
+
+#include <QLocale>
+#include <QString>
+
+/**
+ * Turns scaled integers into text and back. With fractionDigits 4 the integer 12345 is 1.2345. The scales in use are
+ * in constants.h.
+ */
+class DecimalFormat {
+public:
+    explicit DecimalFormat(int fractionDigits = 0, int minFractionDigits = 0);
+
+    int fractionDigits() const { return m_fractionDigits; }
+    void setFractionDigits(int digits);
+    int minFractionDigits() const { return m_minFractionDigits; }
+    void setMinFractionDigits(int digits) { m_minFractionDigits = digits; }
+
+    QString decimalPoint() const { return m_decimalPoint; }
+    void setDecimalPoint(const QString &point) { m_decimalPoint = point; }
+
+    QLocale locale() const { return m_locale; }
+    /** Also replaces the decimal point by the locale's. */
+    void setLocale(const QLocale &locale);
+
+    /** Display text: digits grouped as the locale groups them, U+2212 as the minus sign. */
+    QString format(int value) const;
+
+    /** Machine text: no grouping, ASCII hyphen as the minus sign. */
+    QString formatWithoutGrouping(int value) const;
+
+    /**
+     * Reads a number whose decimal separator is "," or ".", whatever the locale. Decimals beyond the scale are cut, not
+     * rounded. The integer part must fit into 32 bits, the result may be larger.
+     * @param ok  set to whether the text was a number; the result is 0 when the integer part was not
+     */
+    long long parse(const QString &text, bool &ok) const;
+
+private:
+    QString fraction(long long magnitude) const;
+
+    QLocale m_locale;
+    QString m_decimalPoint;
+    int m_divisor = 1; ///< 10 to the power m_fractionDigits
+    int m_fractionDigits = 0;
+    int m_minFractionDigits = 0;
+};
+
+#endif

@@ -1,0 +1,39 @@
+#ifndef INPUTLINE_H
+#define INPUTLINE_H
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+class QTextCodec;
+
+/**
+ * Reads lines from a file descriptor as they arrive. A line that is there is returned at once, also from a pipe that
+ * stays open; the buffered readers of the library wait for a full block.
+ */
+class InputLine {
+public:
+    explicit InputLine(int descriptor);
+
+    /**
+     * Waits for the next line.
+     * @param line  the line without LF or CR LF, decoded from the locale's character set
+     * @return false at the end of the input (or when it cannot be read); `line` is then unchanged
+     */
+    bool read(QString &line);
+
+    /**
+     * Splits a command line into words. Unquoted white space ends a word (two in a row make an empty one), double
+     * quotes keep white space, a backslash escapes `"`, `\`, `n`, `r` and `t`. After an escaped letter the escape stays
+     * in force: existing scripts rely on it.
+     */
+    static QStringList splitWords(const QString &line);
+
+private:
+    int m_descriptor;
+    QByteArray m_buffer;
+    int m_position = 0; ///< start of what was not returned yet
+    bool m_atEnd = false;
+};
+
+#endif
