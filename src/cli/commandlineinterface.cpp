@@ -2,6 +2,7 @@
 
 #include "bankaccountcommands.h"
 #include "customercommands.h"
+#include "exportcommands.h"
 #include "invoicecommands.h"
 #include "invoiceitemcommands.h"
 #include "paymentcommands.h"
@@ -38,6 +39,7 @@ constexpr Command commands[] = {
     {"--add-payment", "add-payment", call<parseSavePaymentCommand, adding>},
     {"--edit-payment", "edit-payment", call<parseSavePaymentCommand, editing>},
     {"--remove-payments", "remove-payments", call<parseFindPaymentsCommand, removing>},
+    {"--export-invoices", "export-invoices", call<parseExportInvoicesCommand>},
 };
 
 } // namespace

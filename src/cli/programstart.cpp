@@ -4,11 +4,24 @@
 #include <QTextCodec>
 
 #include <clocale>
+#include <cstdio>
 #include <cstring>
 #include <langinfo.h>
 
+namespace {
+
+/** Standard error belongs to the user: what the library says of a runtime folder that is never used stays unsaid. */
+void handleMessage(QtMsgType, const QMessageLogContext &, const QString &message)
+{
+    if (!message.startsWith(QLatin1String("QStandardPaths:")))
+        std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
+}
+
+} // namespace
+
 void ProgramStart::prepare()
 {
+    qInstallMessageHandler(handleMessage);
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     std::setlocale(LC_ALL, "");
