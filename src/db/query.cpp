@@ -29,6 +29,16 @@ QString assignments(const char *columns)
     return QString::fromLatin1(columns).replace(QLatin1String(", "), QLatin1String("=?, ")) + QLatin1String("=?");
 }
 
+/** A command that is repeated line after line uses about ten. */
+constexpr int maxKeptStatements = 40;
+
+/** The columns of every fetch, joined once. */
+template <class Record> const QString &allColumns()
+{
+    static const QString columns = selectedColumns<Record>();
+    return columns;
+}
+
 template <class Record> QString updateStatement()
 {
     return QLatin1String("UPDATE ") + QLatin1String(TableColumns<Record>::table) + QLatin1String(" SET ") +
@@ -43,12 +53,32 @@ QString Query::lastError() const { return m_query.lastError().text().trimmed(); 
 
 bool Query::execute(const QString &sql, const QVariantList &values)
 {
-    m_prepareFailed = !m_query.prepare(sql);
-    if (m_prepareFailed)
-        return false;
+    m_query.finish(); // what was not read of the statement before must not keep its table locked
+    const auto kept = m_statements.constFind(sql);
+    m_prepareFailed = false;
+    if (kept != m_statements.constEnd()) {
+        m_query = *kept;
+    } else {
+        m_prepareFailed = !m_query.prepare(sql);
+        if (m_prepareFailed)
+            return false;
+        keepStatement(sql);
+    }
     for (int i = 0; i < values.size(); ++i)
         m_query.bindValue(i, values.at(i));
-    return m_query.exec();
+    if (m_query.exec())
+        return true;
+    m_statements.remove(sql);
+    return false;
+}
+
+void Query::keepStatement(const QString &sql)
+{
+    if (!keepsStatements())
+        return;
+    if (m_statements.size() == maxKeptStatements) // texts that vary without end, with a search's criteria
+        m_statements.clear();
+    m_statements.insert(sql, m_query);
 }
 
 int Query::firstInteger(const QString &sql, const QVariantList &values)
@@ -62,16 +92,15 @@ int Query::firstInteger(const QString &sql, const QVariantList &values)
 
 template <class Record> bool Query::fetchAll(const char *order)
 {
-    return execute(
-        QStringLiteral("SELECT %1 FROM %2%3")
-            .arg(selectedColumns<Record>(), QLatin1String(TableColumns<Record>::table), QLatin1String(order)));
+    return execute(QStringLiteral("SELECT %1 FROM %2%3")
+                       .arg(allColumns<Record>(), QLatin1String(TableColumns<Record>::table), QLatin1String(order)));
 }
 
 template <class Record> bool Query::fetchWhere(const char *condition, int value, const char *rest)
 {
     return execute(QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ?%4")
-                       .arg(selectedColumns<Record>(), QLatin1String(TableColumns<Record>::table),
-                            QLatin1String(condition), QLatin1String(rest)),
+                       .arg(allColumns<Record>(), QLatin1String(TableColumns<Record>::table), QLatin1String(condition),
+                            QLatin1String(rest)),
                    {value});
 }
 
