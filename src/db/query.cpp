@@ -51,6 +51,13 @@ bool Query::execute(const QString &sql, const QVariantList &values)
     return m_query.exec();
 }
 
+bool Query::isConnected()
+{
+    const bool connected = m_query.exec(QStringLiteral("SELECT 1"));
+    m_query.finish();
+    return connected;
+}
+
 int Query::firstInteger(const QString &sql, const QVariantList &values)
 {
     if (!execute(sql, values))

@@ -33,6 +33,8 @@ public:
     bool next() { return m_query.next(); }
     bool last() { return m_query.last(); }
     void finish() { m_query.finish(); }
+    /** Asks the database: a server may have gone. */
+    bool isConnected();
 
     // Lists and single records
     [[nodiscard]] bool fetchBankAccounts();

@@ -1,0 +1,50 @@
+#ifndef PRINTMODEL_H
+#define PRINTMODEL_H
+
+#include <QImage>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+/**
+ * The read-only view of business data that a print or XML script sees. A script asks for values by slash-separated
+ * paths such as `invoices/0/customer/name`; `length` tells the size of a list. Keys are case-sensitive.
+ *
+ * Sums of money are ints in cents; unit prices 64-bit integers and quantities ints with four decimals, percentages ints
+ * with two; a missing date is a null date. What a path does not reach is an invalid variant, "undefined" in a script.
+ *
+ * A model is configured, run() once, and then read any number of times.
+ */
+class PrintModel : public QObject {
+    Q_OBJECT
+public:
+    explicit PrintModel(QObject *parent = nullptr);
+    ~PrintModel() override;
+
+    /** Gathers the data. @return false on failure, with the text in lastError() */
+    [[nodiscard]] virtual bool run();
+    /** The document's title, for people. */
+    virtual QString title() const = 0;
+    virtual QString lastError() const;
+
+    /** Splits the path at every "/", empty parts kept, and resolves it. */
+    virtual QVariant value(const QString &path);
+    virtual QImage image(const QString &path);
+
+    /**
+     * Writes the model's rows as UTF-8 text. An existing file is replaced only once the new one is complete.
+     * @param format  the field delimiter, one character
+     * @return false when the file cannot be written, with the reason in lastError()
+     */
+    [[nodiscard]] virtual bool exportToCSV(const QString &fileName, const QString &format) = 0;
+
+    /** Resolves a path and takes the elements it uses off its front. */
+    virtual QVariant value(QStringList &path) = 0;
+    virtual QImage image(QStringList &path);
+
+    /** The field delimiter of a CSV format number: "," for 0, ";" for any other. */
+    static QString csvFormatToDelimiter(int format);
+};
+
+#endif
