@@ -124,7 +124,8 @@ void TestDatabase::clear()
 {
     for (const char *table :
          {"settings", "customer", "product", "bank_account", "invoice", "invoice_item", "payment", "print_script"})
-        run(QLatin1String("DELETE FROM ") + QLatin1String(table));
+        run((m_isSQLite ? QStringLiteral("DELETE FROM %1") : QStringLiteral("TRUNCATE %1 RESTART IDENTITY"))
+                .arg(QLatin1String(table)));
 }
 
 void addBackends()

@@ -38,7 +38,7 @@ public:
     void run(const QString &sql) const;
     /** All rows of a SELECT on that connection, columns joined by "|": 1 and 0 for flags, NULL for NULL. */
     QStringList rows(const QString &sql) const;
-    /** Empties all tables. */
+    /** Empties all tables; ids begin at 1 again. */
     void clear();
 
     bool isSQLite() const { return m_isSQLite; }
