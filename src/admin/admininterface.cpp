@@ -1,6 +1,7 @@
 #include "admininterface.h"
 
 #include "databasecommands.h"
+#include "printscriptcommands.h"
 #include "settingscommands.h"
 
 // A resource in a static library is linked only when it is named; the macro does not work inside a namespace or class.
@@ -15,6 +16,12 @@ constexpr Command commands[] = {
     {"--forget-database", "forget-database", call<parseForgetDatabaseCommand>},
     {"--find-settings", "find-settings", call<parseFindSettingsCommand>},
     {"--edit-settings", "edit-settings", call<parseEditSettingsCommand>},
+    {"--find-print-scripts", "find-print-scripts", call<parseFindPrintScriptsCommand>},
+    {"--add-print-script", "add-print-script", call<parseSavePrintScriptCommand, SaveCommandMode::add>},
+    {"--edit-print-script", "edit-print-script", call<parseSavePrintScriptCommand, SaveCommandMode::edit>},
+    {"--export-print-script", "export-print-script", call<parseExportPrintScriptCommand>},
+    {"--remove-print-scripts", "remove-print-scripts", call<parseRemovePrintScriptsCommand>},
+    {"--select-invoice-script", "select-invoice-script", call<parseSelectInvoiceScriptCommand>},
 };
 
 } // namespace
