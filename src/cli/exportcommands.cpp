@@ -136,7 +136,7 @@ bool printInvoices(CommandContext &context, const Request &request, InvoicePrint
             return context.status.fail(ExitCode::databaseFailure, file.lastError());
         single.clear();
         single.copyInvoice(&all, i);
-        printer.setPartFileName(file.partName());
+        printer.setOutputFileName(file.partName());
         manager.print(&printer, &single, 0, allPages, false);
         if (!file.commit("%%EOF"))
             return context.status.fail(ExitCode::databaseFailure, file.lastError());
