@@ -26,8 +26,10 @@ void CamtReader::readElement(const Path<Target> (&paths)[size], Target &target, 
         const QStringRef name = m_xml.name();
         QLatin1String below; // no text is put together here: half of a file's elements come to nothing
         const auto found = std::find_if(std::begin(paths), std::end(paths), [&](const Path<Target> &wanted) {
+            if (!wanted.path.startsWith(parent))
+                return false;
             const QLatin1String rest = wanted.path.mid(parent.size());
-            if (!wanted.path.startsWith(parent) || !rest.startsWith(name))
+            if (!rest.startsWith(name))
                 return false;
             if (rest.size() > name.size() && rest.at(name.size()) == QLatin1Char('/'))
                 below = wanted.path.left(parent.size() + name.size() + 1);
