@@ -57,16 +57,19 @@ public:
     void forgetProduct(int id);
 
     // A negative id finds nothing; `found` is set to whether the result is not null.
+    const QList<Customer *> &customers() const { return m_customers; }
     int customerCount() const { return m_customers.size(); }
     Customer *customer(int index) const { return m_customers.at(index); }
     Customer *customerById(int id, bool &found) const;
     Customer *customerByNumber(int number, bool &found) const;
 
+    const QList<Product *> &products() const { return m_products; }
     int productCount() const { return m_products.size(); }
     Product *product(int index) const { return m_products.at(index); }
     Product *productById(int id, bool &found) const;
     Product *productByNumber(const QString &number, bool &found) const;
 
+    const QList<BankAccount *> &bankAccounts() const { return m_bankAccounts; }
     int bankAccountCount() const { return m_bankAccounts.size(); }
     BankAccount *bankAccount(int index) const { return m_bankAccounts.at(index); }
     BankAccount *bankAccountById(int id, bool &found) const;

@@ -32,7 +32,7 @@ QString DecimalFormat::fraction(long long magnitude) const
     return digits;
 }
 
-QString DecimalFormat::format(int value) const
+QString DecimalFormat::format(long long value) const
 {
     const long long magnitude = std::llabs(value);
     QString text = m_locale.toString(magnitude / m_divisor);
@@ -42,7 +42,7 @@ QString DecimalFormat::format(int value) const
     return decimals.isEmpty() ? text : text + m_decimalPoint + decimals;
 }
 
-QString DecimalFormat::formatWithoutGrouping(int value) const
+QString DecimalFormat::formatWithoutGrouping(long long value) const
 {
     const long long magnitude = std::llabs(value);
     QString text = QString::number(magnitude / m_divisor);

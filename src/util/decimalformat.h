@@ -25,10 +25,10 @@ public:
     void setLocale(const QLocale &locale);
 
     /** Display text: digits grouped as the locale groups them, U+2212 as the minus sign. */
-    QString format(int value) const;
+    QString format(long long value) const;
 
     /** Machine text: no grouping, ASCII hyphen as the minus sign. */
-    QString formatWithoutGrouping(int value) const;
+    QString formatWithoutGrouping(long long value) const;
 
     /**
      * Reads a number whose decimal separator is "," or ".", whatever the locale. Decimals beyond the scale are cut, not

@@ -1,0 +1,79 @@
+#include "databaselist.h"
+
+#include "settingsfile.h"
+
+#include <QSettings>
+
+DatabaseList::DatabaseList(QSettings *settings) : m_settings(settings)
+{
+    settings->beginGroup(QStringLiteral("databases"));
+    m_lastUsed = settings->value(QStringLiteral("lastUsed"), -1).toInt();
+    const int size = settings->beginReadArray(QStringLiteral("settings"));
+    for (int i = 0; i < size; ++i) {
+        settings->setArrayIndex(i);
+        QVariantMap entry;
+        const QStringList keys = settings->allKeys();
+        for (const QString &key : keys)
+            entry.insert(key, settings->value(key));
+        m_entries.append(entry);
+    }
+    settings->endArray();
+    settings->endGroup();
+}
+
+int DatabaseList::number(const QVariantMap &entry) { return entry.value(QStringLiteral("number"), 0).toInt(); }
+
+bool DatabaseList::isPostgreSQL(const QVariantMap &entry)
+{
+    return entry.value(QStringLiteral("type")).toString().compare(QLatin1String("postgresql"), Qt::CaseInsensitive) ==
+           0;
+}
+
+int DatabaseList::indexOf(int wanted) const
+{
+    for (int i = 0; i < m_entries.size(); ++i) {
+        if (number(m_entries.at(i)) == wanted)
+            return i;
+    }
+    return -1;
+}
+
+int DatabaseList::nextFreeNumber() const
+{
+    int free = 1;
+    while (contains(free))
+        ++free;
+    return free;
+}
+
+void DatabaseList::remove(int number)
+{
+    const int index = indexOf(number);
+    if (index >= 0)
+        m_entries.removeAt(index);
+    if (m_lastUsed == number)
+        m_lastUsed = -1;
+}
+
+bool DatabaseList::save()
+{
+    if (!SettingsFile::createPrivate(m_settings->fileName()))
+        return false;
+    m_settings->beginGroup(QStringLiteral("databases"));
+    if (m_lastUsed < 0)
+        m_settings->remove(QStringLiteral("lastUsed"));
+    else
+        m_settings->setValue(QStringLiteral("lastUsed"), m_lastUsed);
+    m_settings->remove(QStringLiteral("settings"));
+    m_settings->beginWriteArray(QStringLiteral("settings"), m_entries.size());
+    for (int i = 0; i < m_entries.size(); ++i) {
+        m_settings->setArrayIndex(i);
+        const QVariantMap &entry = m_entries.at(i);
+        for (auto it = entry.cbegin(); it != entry.cend(); ++it)
+            m_settings->setValue(it.key(), it.value());
+    }
+    m_settings->endArray();
+    m_settings->endGroup();
+    m_settings->sync();
+    return m_settings->status() == QSettings::NoError;
+}

@@ -1,0 +1,158 @@
+#include "databasesession.h"
+
+#include "commandstatus.h"
+#include "diagnostics.h"
+#include "postgresqldatabase.h"
+#include "query.h"
+#include "sqlitedatabase.h"
+
+#include <QSettings>
+
+namespace {
+
+using Fetch = bool (Registry::*)(Query *);
+
+// In the order of CachedList.
+constexpr Fetch fetches[] = {&Registry::fetchBankAccounts, &Registry::fetchCustomers, &Registry::fetchProducts,
+                             &Registry::fetchSettings, &Registry::fetchPrintScripts};
+
+} // namespace
+
+DatabaseSession::DatabaseSession(Registry &registry, CommandStatus &status, Diagnostics &diagnostics)
+    : m_registry(registry), m_status(status), m_diagnostics(diagnostics)
+{
+}
+
+DatabaseSession::~DatabaseSession() { closeDatabase(); }
+
+/** @return the entry's place in the list of databases, -1 when there is none for that number */
+int DatabaseSession::findDatabaseIndex(int number) const
+{
+    QSettings *settings = m_registry.appSettings();
+    settings->beginGroup(QStringLiteral("databases"));
+    if (number < 1)
+        number = settings->value(QStringLiteral("lastUsed"), -1).toInt();
+    const int size = settings->beginReadArray(QStringLiteral("settings"));
+    int index = number < 0 && size > 0 ? 0 : -1; // no last used database: the first
+    for (int i = 0; number > 0 && i < size && index < 0; ++i) {
+        settings->setArrayIndex(i);
+        if (settings->value(QStringLiteral("number"), 0).toInt() == number)
+            index = i;
+    }
+    settings->endArray();
+    settings->endGroup();
+    return index;
+}
+
+bool DatabaseSession::ensureOpen()
+{
+    if (m_database && m_isSuspect && !m_query->isConnected())
+        m_lostNumber = m_number;
+    m_isSuspect = false;
+    if (!m_lostNumber)
+        return openDatabase(-1, true);
+    const int lost = *m_lostNumber; // tried again by every command until it works or another one is chosen
+    const bool opened = openDatabase(lost, false);
+    if (!opened)
+        m_lostNumber = lost;
+    return opened;
+}
+
+bool DatabaseSession::openDatabase(int number, bool onlyIfClosed)
+{
+    if (onlyIfClosed && m_database)
+        return true;
+    closeDatabase();
+    m_number = number;
+    m_lostNumber.reset();
+    const int index = findDatabaseIndex(number);
+    if (index < 0) {
+        // The exit code stays: a data command without any database answers nothing.
+        m_status.lastError = tr("Tietokanta-asetuksia ei löytynyt");
+        return false;
+    }
+
+    QSettings *settings = m_registry.appSettings();
+    settings->beginGroup(QStringLiteral("databases"));
+    settings->beginReadArray(QStringLiteral("settings"));
+    settings->setArrayIndex(index);
+    const QString filename = settings->value(QStringLiteral("filename")).toString();
+    const QString type = settings->value(QStringLiteral("type"), QStringLiteral("sqlite")).toString();
+    if (type.compare(QLatin1String("postgresql"), Qt::CaseInsensitive) == 0) {
+        m_diagnostics.printDebugMessage(
+            tr("Avataan PostgreSQL-tietokanta %1").arg(settings->value(QStringLiteral("databaseName")).toString()));
+        m_database = std::make_unique<PostgreSQLDatabase>();
+    } else {
+        m_diagnostics.printDebugMessage(tr("Avataan SQLite-tietokanta %1").arg(filename));
+        m_database = std::make_unique<SQLiteDatabase>();
+    }
+    m_database->setCreateIfNotExist(false);
+    const bool opened = m_database->open(settings);
+    settings->endArray();
+    settings->endGroup();
+
+    if (!opened || !m_database->exists()) {
+        m_status.fail(ExitCode::databaseFailure,
+                      opened ? tr("Tietokantaa ei löytynyt: %1").arg(filename) : m_database->lastError());
+        closeDatabase();
+        return false;
+    }
+    m_query.reset(m_database->query());
+    m_registry.setDatabase(m_database.get());
+    m_registry.setConnected(true);
+    return true;
+}
+
+void DatabaseSession::closeDatabase()
+{
+    m_query.reset();
+    for (int i = 0; i < listCount; ++i) {
+        // The stored print scripts are read once per run, whatever database is opened later.
+        if (i != static_cast<int>(CachedList::printScripts))
+            m_lists[i] = ListState();
+    }
+    m_registry.setConnected(false);
+    if (m_database)
+        m_database->close();
+    m_registry.setDatabase(nullptr);
+    m_database.reset();
+}
+
+bool DatabaseSession::fetch(CachedList list)
+{
+    const int index = static_cast<int>(list);
+    ListState &state = m_lists[index];
+    if (state.fetched)
+        return true;
+    const long long version = m_database->foreignChanges();
+    const bool current = state.version != -1 && version == state.version;
+    if (!current && !(m_registry.*fetches[index])(m_query.get()))
+        return failQuery();
+    state.version = version;
+    state.fetched = true;
+    return true;
+}
+
+void DatabaseSession::invalidate(CachedList list) { m_lists[static_cast<int>(list)].fetched = false; }
+
+void DatabaseSession::invalidateIfChanged()
+{
+    if (m_database->foreignChanges() == -1)
+        return; // the backend cannot tell
+    for (int i = 0; i < listCount; ++i) {
+        if (i != static_cast<int>(CachedList::printScripts))
+            m_lists[i].fetched = false;
+    }
+}
+
+bool DatabaseSession::failQuery()
+{
+    m_isSuspect = true;
+    return m_status.fail(ExitCode::databaseFailure, m_query->lastError());
+}
+
+bool DatabaseSession::failDatabase()
+{
+    m_isSuspect = true;
+    return m_status.fail(ExitCode::databaseFailure, m_database->lastError());
+}

@@ -1,0 +1,81 @@
+#ifndef DATABASESESSION_H
+#define DATABASESESSION_H
+
+#include "registry.h"
+
+#include <QCoreApplication>
+
+#include <memory>
+#include <optional>
+
+class CommandStatus;
+class Database;
+class Diagnostics;
+class Query;
+
+/** The lists that are read once per database and then kept in the registry. */
+enum class CachedList { bankAccounts, customers, products, settings, printScripts };
+
+/**
+ * The database that commands work on: chosen from the settings file's list, opened when a command first needs it, with
+ * the lists that are read from it once. Failures go to the command status.
+ */
+class DatabaseSession {
+    Q_DECLARE_TR_FUNCTIONS(DatabaseSession)
+public:
+    /** All three belong to the caller and outlive the session. */
+    DatabaseSession(Registry &registry, CommandStatus &status, Diagnostics &diagnostics);
+    ~DatabaseSession();
+
+    /**
+     * @param number        the database's number in the list; below 1 the last used one
+     * @param onlyIfClosed  keep a database that is open already
+     * @return false with the reason in the status; when the list has no such database, the exit code stays as it was
+     */
+    [[nodiscard]] bool openDatabase(int number, bool onlyIfClosed);
+    /** What every data command does first. A server connection that was lost is made anew. */
+    [[nodiscard]] bool ensureOpen();
+    void closeDatabase();
+
+    Registry &registry() { return m_registry; }
+    Database *database() const { return m_database.get(); } ///< null while closed
+    Query *query() const { return m_query.get(); }          ///< null while closed
+    std::unique_ptr<Query> newQuery() const;                ///< for a search whose rows are read while others are made
+
+    /** Reads the list into the registry unless that is done already. */
+    [[nodiscard]] bool fetch(CachedList list);
+    /**
+     * A record of the list was saved: the list is read again when next needed, unless the registry was told of the
+     * change and nobody else has changed the database.
+     */
+    void invalidate(CachedList list);
+    /** Before a list is changed: what others have changed since it was read must not be overwritten. */
+    void invalidateIfChanged();
+
+    /** The query's error as the status, database failure. */
+    bool failQuery();
+    /** The database's error likewise. */
+    bool failDatabase();
+
+private:
+    static constexpr int listCount = 5;
+
+    struct ListState {
+        bool fetched = false;   ///< need not be read again
+        long long version = -1; ///< Database::foreignChanges() when it was read; -1: not read or not known
+    };
+
+    int findDatabaseIndex(int number) const;
+
+    Registry &m_registry;
+    CommandStatus &m_status;
+    Diagnostics &m_diagnostics;
+    std::unique_ptr<Database> m_database;
+    std::unique_ptr<Query> m_query;
+    ListState m_lists[listCount];
+    int m_number = -1;               ///< what the open database was asked for by
+    bool m_isSuspect = false;        ///< a statement failed: the connection may be gone
+    std::optional<int> m_lostNumber; ///< as m_number, of a database whose connection is gone
+};
+
+#endif

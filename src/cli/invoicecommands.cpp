@@ -1,0 +1,317 @@
+#include "invoicecommands.h"
+
+#include "constants.h"
+#include "customer.h"
+#include "invoice.h"
+#include "invoicecriteria.h"
+#include "invoiceitem.h"
+#include "parametertable.h"
+#include "payment.h"
+#include "paymentcriteria.h"
+#include "query.h"
+#include "recordprinter.h"
+#include "settings.h"
+#include "templatestringhelper.h"
+#include "writetransaction.h"
+
+#include <QHash>
+#include <QVector>
+
+namespace {
+
+struct State {
+    Invoice record;
+    Customer customer;  ///< the invoice's, empty while not known
+    bool found = false; ///< an existing invoice was looked up
+};
+
+/** Fills the reference number and the notice texts of the invoice as the settings have them. */
+void updateReferenceNumber(CommandContext &context, Invoice *invoice, const Customer *customer)
+{
+    Registry &registry = context.session.registry();
+    const TemplateStringHelper helper(&registry);
+    const Settings *settings = registry.settings();
+    invoice->referenceNumber = customer->referenceNumber;
+    if (invoice->referenceNumber.isEmpty()) {
+        const QString base = helper.substituteVariables(settings->referenceNumberTemplate(), invoice, customer);
+        invoice->referenceNumber = Invoice::appendCheckDigitToReferenceNumber(base);
+    }
+    const struct {
+        const char *setting, *property;
+    } notices[] = {{"invoiceForm/noticeText1", "t1"}, {"invoiceForm/noticeText2", "t2"}};
+    for (const auto &notice : notices) {
+        const QString form = settings->property(QLatin1String(notice.setting)).toString();
+        invoice->setPropertyIfNotEmpty(QLatin1String(notice.property),
+                                       helper.substituteVariables(form, invoice, customer));
+    }
+}
+
+bool useCustomer(CommandContext &context, State &state)
+{
+    state.record.customerId = state.customer.id;
+    updateReferenceNumber(context, &state.record, &state.customer);
+    return true;
+}
+
+bool customerById(CommandContext &context, const QString &key, const QString &value, State &state)
+{
+    int id = 0;
+    return context.values.parseIdValue(key, value, context.lastSaved.customer, id) &&
+           context.finder.findCustomerById(id, &state.customer) && useCustomer(context, state);
+}
+
+bool customerByNumber(CommandContext &context, const QString &key, const QString &value, State &state)
+{
+    int number = 0;
+    return context.values.parseIntValue(key, value, number) &&
+           context.finder.findCustomerByNumber(number, &state.customer) && useCustomer(context, state);
+}
+
+bool customerByName(CommandContext &context, const QString &, const QString &value, State &state)
+{
+    return context.finder.findCustomerByName(value, &state.customer) && useCustomer(context, state);
+}
+
+/** The customer of a looked-up invoice, for the reference number that a new number gives it. */
+bool loadCustomer(CommandContext &context, State &state)
+{
+    state.found = true;
+    if (!context.session.fetch(CachedList::customers))
+        return false;
+    bool known = false;
+    const Customer *customer = context.session.registry().customerById(state.record.customerId, known);
+    state.customer = known ? *customer : Customer();
+    return true;
+}
+
+bool findById(CommandContext &context, const QString &key, const QString &value, State &state)
+{
+    int id = 0;
+    return context.values.parseIntValue(key, value, id) && context.finder.findInvoiceById(id, &state.record) &&
+           loadCustomer(context, state);
+}
+
+bool findByNumber(CommandContext &context, const QString &key, const QString &value, State &state)
+{
+    int number = 0;
+    return context.values.parseIntValue(key, value, number) &&
+           context.finder.findInvoiceByNumber(number, &state.record) && loadCustomer(context, state);
+}
+
+bool number(CommandContext &context, const QString &key, const QString &value, State &state)
+{
+    if (!context.values.parseIntValue(key, value, state.record.number))
+        return false;
+    updateReferenceNumber(context, &state.record, &state.customer);
+    return true;
+}
+
+bool date(CommandContext &context, const QString &key, const QString &value, State &state)
+{
+    if (!context.values.parseDateValue(key, value, state.record.date))
+        return false;
+    state.record.dueDate = state.record.calculateDueDate(); // with the payment terms known so far
+    return true;
+}
+
+constexpr Parameter<State> parameters[] = {
+    {"type", Parameters::integer<&Invoice::type>},
+    {"number", number},
+    {"date", date},
+    {"dueDate", Parameters::date<&Invoice::dueDate>},
+    {"deliveryDate", Parameters::date<&Invoice::deliveryDate>},
+    {"paymentTerms", Parameters::text<&Invoice::paymentTerms>},
+    {"delivery", Parameters::text<&Invoice::delivery>},
+    {"buyerRef", Parameters::text<&Invoice::buyerRef>},
+    {"sellerRef", Parameters::text<&Invoice::sellerRef>},
+    {"interestOnArrears", Parameters::decimal<&Invoice::interestOnArrears, Constants::percentageFractionDigits>},
+    {"referenceNumber", Parameters::referenceNumber<&Invoice::referenceNumber>},
+    {"findCustomerById", customerById},
+    {"findCustomerByNumber", customerByNumber},
+    {"findCustomerByName", customerByName},
+    {"findByInvoiceId", findById, true},
+    {"findByNumber", findByNumber, true},
+};
+
+/** What a new invoice needs and was not given. */
+bool completeNewInvoice(CommandContext &context, State &state)
+{
+    Invoice &invoice = state.record;
+    if (!invoice.dueDate.isValid())
+        invoice.dueDate = invoice.calculateDueDate();
+    if (invoice.customerId < 0)
+        return context.status.fail(ExitCode::badData,
+                                   CommandContext::tr("Jokin parametreista findCustomerById, findCustomerByNumber tai "
+                                                      "findCustomerByName on pakollinen"));
+    if (invoice.number == 0) {
+        const int highest = context.session.query()->maxInvoiceNumber();
+        if (!context.session.query()->lastError().isEmpty())
+            return context.session.failQuery();
+        invoice.number = highest + 1;
+        updateReferenceNumber(context, &invoice, &state.customer);
+    }
+    return true;
+}
+
+void applyDefaults(CommandContext &context, Invoice &invoice)
+{
+    const Settings *settings = context.session.registry().settings();
+    invoice.date = QDate::currentDate();
+    invoice.paymentTerms = settings->property(QStringLiteral("settings/paymentTerms")).toString();
+    invoice.interestOnArrears = settings->property(QStringLiteral("settings/interestOnArrears")).toInt();
+}
+
+bool saveInvoice(CommandContext &context, const ParameterList &words, SaveCommandMode mode, Invoice &saved)
+{
+    WriteTransaction transaction(context.session);
+    if (!transaction.hasBegun())
+        return false;
+    if (!context.session.fetch(CachedList::bankAccounts) || !context.session.fetch(CachedList::settings))
+        return false;
+    State state;
+    applyDefaults(context, state.record);
+    if (!applyParameters(context, words, parameters, mode, state))
+        return false;
+    if (mode == SaveCommandMode::edit && !state.found)
+        return context.status.fail(
+            ExitCode::badData,
+            CommandContext::tr("Toinen parametreista findByInvoiceId tai findByNumber on pakollinen"));
+    if (mode == SaveCommandMode::add && !completeNewInvoice(context, state))
+        return false;
+    context.diagnostics.printDebugMessage(CommandContext::tr("Tallennetaan laskun %1 tiedot").arg(state.record.number));
+    if (!context.session.query()->saveInvoice(&state.record))
+        return context.session.failQuery();
+    saved = state.record;
+    return transaction.commit();
+}
+
+struct Search {
+    InvoiceCriteria criteria;
+    bool invoiceItems = false;
+    bool payments = false;
+};
+
+bool parseSearch(CommandContext &context, const ParameterList &words, Search &search)
+{
+    for (const auto &[key, value] : words) {
+        const int applied = context.criteria.parseInvoiceCriteriaParam(key, value, &search.criteria);
+        if (applied < 0)
+            return false;
+        if (applied > 0)
+            continue;
+        if (key == QLatin1String("invoiceItems"))
+            search.invoiceItems = true;
+        else if (key == QLatin1String("payments"))
+            search.payments = true;
+        else
+            return context.status.failUnknownParameter(key);
+    }
+    return true;
+}
+
+/** Reads all rows of a search, grouped by their invoice. */
+template <class Record> QHash<int, QVector<Record>> readGrouped(Query *query, void (Query::*read)(Record *) const)
+{
+    QHash<int, QVector<Record>> groups;
+    while (query->next()) {
+        Record record;
+        (query->*read)(&record);
+        groups[record.invoiceId].append(record);
+    }
+    return groups;
+}
+
+void findInvoices(CommandContext &context, const Search &search)
+{
+    Query *query = context.session.query();
+    QHash<int, QVector<InvoiceItem>> items;
+    if (search.invoiceItems) {
+        if (!query->fetchInvoiceItems(&search.criteria)) {
+            context.session.failQuery();
+            return;
+        }
+        items = readGrouped<InvoiceItem>(query, &Query::invoiceItem);
+    }
+    QHash<int, QVector<Payment>> payments;
+    if (search.payments) {
+        const PaymentCriteria all;
+        if (!query->fetchPayments(&all, &search.criteria)) {
+            context.session.failQuery();
+            return;
+        }
+        payments = readGrouped<Payment>(query, &Query::payment);
+    }
+    // Invoices are written as they are read, however many there are.
+    if (!query->fetchInvoiceDetails(&search.criteria)) {
+        context.session.failQuery();
+        return;
+    }
+    context.response.startResponse(QStringLiteral("OK"));
+    Invoice invoice;
+    while (query->nextInvoice()) {
+        query->invoiceDetails(&invoice);
+        RecordPrinter::printInvoice(context.response, invoice);
+        for (const InvoiceItem &item : items.value(invoice.id))
+            RecordPrinter::printInvoiceItem(context.response, item);
+        for (const Payment &payment : payments.value(invoice.id))
+            RecordPrinter::printPayment(context.response, payment);
+    }
+    context.response.endResponse();
+}
+
+/** @return the number of invoices removed, -1 on failure */
+int removeInvoices(CommandContext &context, const Search &search)
+{
+    WriteTransaction transaction(context.session);
+    if (!transaction.hasBegun())
+        return -1;
+    Query *query = context.session.query();
+    bool ok = query->fetchInvoiceDetails(&search.criteria);
+    QVector<int> ids;
+    while (ok && query->nextInvoice()) {
+        Invoice invoice;
+        query->invoiceDetails(&invoice);
+        ids.append(invoice.id);
+    }
+    for (const int id : qAsConst(ids))
+        ok = ok && query->deleteInvoiceItems(id) && query->deletePayments(id) && query->deleteInvoice(id);
+    if (!ok) {
+        context.session.failQuery();
+        return -1;
+    }
+    return transaction.commit() ? ids.size() : -1;
+}
+
+} // namespace
+
+void parseSaveInvoiceCommand(CommandContext &context, QStringList &args, SaveCommandMode mode)
+{
+    if (!context.session.ensureOpen())
+        return;
+    Invoice invoice;
+    if (!saveInvoice(context, parseParameters(args), mode, invoice))
+        return;
+    context.lastSaved.invoice = invoice.id;
+    context.response.startResponse(QStringLiteral("OK"));
+    RecordPrinter::printInvoice(context.response, invoice);
+    context.response.endResponse();
+}
+
+void parseFindInvoicesCommand(CommandContext &context, QStringList &args, FindCommandMode mode)
+{
+    if (!context.session.ensureOpen())
+        return;
+    Search search;
+    if (!parseSearch(context, parseParameters(args), search))
+        return;
+    if (mode == FindCommandMode::find) {
+        findInvoices(context, search);
+        return;
+    }
+    const int count = removeInvoices(context, search);
+    if (count < 0)
+        return;
+    context.response.startResponse(QStringLiteral("OK"));
+    context.response.printNumRemoved(count);
+    context.response.endResponse();
+}

@@ -1,0 +1,14 @@
+#ifndef INVOICEITEMCOMMANDS_H
+#define INVOICEITEMCOMMANDS_H
+
+#include "commandcontext.h"
+
+#include <QStringList>
+
+// Each takes its parameters off the words and answers with one response, or leaves a failure in the status.
+
+void parseSaveInvoiceItemCommand(CommandContext &context, QStringList &args, SaveCommandMode mode);
+/** --remove-invoice-items; the invoice's totals are brought up to date by its next row or payment command. */
+void parseRemoveInvoiceItemCommand(CommandContext &context, QStringList &args);
+
+#endif

@@ -1,0 +1,114 @@
+#ifndef LISTCOMMANDS_H
+#define LISTCOMMANDS_H
+
+#include "commandcontext.h"
+#include "parametertable.h"
+#include "query.h"
+#include "writetransaction.h"
+
+#include <QVector>
+
+/*
+ * The saving and finding commands of the records that the registry caches (bank accounts, customers, products). What
+ * differs is told by a Kind:
+ *
+ *     using Record, State (with members `record` and `found`), Search
+ *     list, lastSaved, save, store       the cached list, the id behind "@", Query's and Registry's operations
+ *     parameters, searchKeys             the tables of keys
+ *     records(registry), matches(record, search), print(response, record)
+ *     lookupMissing(), requiredMissing(record), savingMessage(record)
+ *     complete(context, record)          fills what was not given
+ *     removeRecord(session, record)      marks it removed or deletes it
+ *     forget(registry, record)           takes it out of the cached list
+ */
+
+template <class Kind> void saveListRecord(CommandContext &context, QStringList &args, SaveCommandMode mode)
+{
+    if (!context.session.ensureOpen())
+        return;
+    const ParameterList words = parseParameters(args);
+    WriteTransaction transaction(context.session);
+    if (!transaction.hasBegun())
+        return;
+    if (mode == SaveCommandMode::edit)
+        context.session.invalidate(Kind::list); // another program's changes to the record must not be undone
+    typename Kind::State state;
+    if (!applyParameters(context, words, Kind::parameters, mode, state))
+        return;
+    auto &record = state.record;
+    QString missing = Kind::requiredMissing(record);
+    if (mode == SaveCommandMode::edit && !state.found)
+        missing = Kind::lookupMissing();
+    if (!missing.isEmpty()) {
+        context.status.fail(ExitCode::badData, missing);
+        return;
+    }
+    if (!Kind::complete(context, record))
+        return;
+    context.diagnostics.printDebugMessage(Kind::savingMessage(record));
+    if (!(context.session.query()->*Kind::save)(&record)) {
+        context.session.failQuery();
+        return;
+    }
+    if (!transaction.commit())
+        return;
+    (context.session.registry().*Kind::store)(record);
+    context.session.invalidate(Kind::list);
+    context.lastSaved.*Kind::lastSaved = record.id;
+    context.response.startResponse(QStringLiteral("OK"));
+    Kind::print(context.response, record);
+    context.response.endResponse();
+}
+
+template <class Kind> bool removeListRecords(CommandContext &context, const typename Kind::Search &search, int &count)
+{
+    WriteTransaction transaction(context.session);
+    if (!transaction.hasBegun())
+        return false;
+    context.session.invalidate(Kind::list);
+    if (!context.session.fetch(Kind::list))
+        return false;
+    QVector<typename Kind::Record> matching;
+    for (const auto *record : Kind::records(context.session.registry())) {
+        if (Kind::matches(*record, search))
+            matching.append(*record);
+    }
+    for (auto &record : matching) {
+        if (!Kind::removeRecord(context.session, record))
+            return context.session.failQuery();
+    }
+    if (!transaction.commit())
+        return false;
+    for (const auto &record : matching)
+        Kind::forget(context.session.registry(), record);
+    context.session.invalidate(Kind::list);
+    count = matching.size();
+    return true;
+}
+
+template <class Kind> void findListRecords(CommandContext &context, QStringList &args, FindCommandMode mode)
+{
+    if (!context.session.ensureOpen())
+        return;
+    typename Kind::Search search;
+    if (!applyParameters(context, parseParameters(args), Kind::searchKeys, SaveCommandMode::edit, search))
+        return;
+    if (mode == FindCommandMode::remove) {
+        int count = 0;
+        if (!removeListRecords<Kind>(context, search, count))
+            return;
+        context.response.startResponse(QStringLiteral("OK"));
+        context.response.printNumRemoved(count);
+    } else {
+        if (!context.session.fetch(Kind::list))
+            return;
+        context.response.startResponse(QStringLiteral("OK"));
+        for (const auto *record : Kind::records(context.session.registry())) {
+            if (Kind::matches(*record, search))
+                Kind::print(context.response, *record);
+        }
+    }
+    context.response.endResponse();
+}
+
+#endif

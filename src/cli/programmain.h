@@ -1,0 +1,20 @@
+#ifndef PROGRAMMAIN_H
+#define PROGRAMMAIN_H
+
+#include "programstart.h"
+
+#include <QApplication>
+#include <QTimer>
+
+/** The main function of a program whose commands are in the class Interface. @return the process's exit status */
+template <class Interface> int programMain(int argc, char *argv[])
+{
+    ProgramStart::prepare();
+    const QApplication app(argc, argv);
+    ProgramStart::nameApplication();
+    Interface commands(qApp);
+    QTimer::singleShot(0, &commands, &Interface::start);
+    return QApplication::exec();
+}
+
+#endif

@@ -1,0 +1,20 @@
+#ifndef PROGRAMSTART_H
+#define PROGRAMSTART_H
+
+class QApplication;
+
+/** What every program of the system does around its application object. */
+namespace ProgramStart {
+
+/**
+ * Before the application object is made: no display is needed, and a locale whose character set is plain ASCII (as
+ * with LC_ALL=C) is taken as UTF-8, so that Finnish letters survive.
+ */
+void prepare();
+
+/** Names the application; the settings file is found by it. */
+void nameApplication();
+
+} // namespace ProgramStart
+
+#endif

@@ -1,0 +1,160 @@
+#include "recordfinder.h"
+
+#include "bankaccount.h"
+#include "commandstatus.h"
+#include "customer.h"
+#include "databasesession.h"
+#include "invoice.h"
+#include "invoicecriteria.h"
+#include "invoiceitem.h"
+#include "payment.h"
+#include "product.h"
+#include "query.h"
+
+#include <algorithm>
+
+template <class Record, class Matches>
+bool RecordFinder::findFirst(const QList<Record *> &list, Matches matches, Record *record, const QString &notFound)
+{
+    const auto it = std::find_if(list.begin(), list.end(), matches);
+    if (it == list.end())
+        return m_status.fail(ExitCode::badData, notFound);
+    *record = **it;
+    return true;
+}
+
+template <class Record, class Matches>
+bool RecordFinder::findByText(const QList<Record *> &list, const QString &text, QString Record::*field,
+                              Matches contains, Record *record, const Messages &messages)
+{
+    const Record *exact = nullptr;
+    const Record *partial = nullptr;
+    int exactCount = 0;
+    int partialCount = 0;
+    const QString lowerCase = text.toLower();
+    for (const Record *candidate : list) {
+        if (candidate->*field == text) {
+            exact = candidate;
+            ++exactCount;
+        } else if (contains(*candidate, lowerCase)) {
+            partial = candidate;
+            ++partialCount;
+        }
+    }
+    if (exactCount == 1)
+        *record = *exact;
+    else if (partialCount == 1)
+        *record = *partial;
+    else
+        return m_status.fail(ExitCode::badData, (partialCount == 0 ? messages.notFound : messages.several).arg(text));
+    return true;
+}
+
+template <class Record, class Read>
+bool RecordFinder::readOne(bool fetched, Read read, Record *record, const QString &notFound)
+{
+    Query *query = m_session.query();
+    if (!fetched)
+        return m_session.failQuery();
+    const bool found = query->next();
+    if (found) {
+        *record = Record();
+        (query->*read)(record);
+    }
+    query->finish();
+    return found || m_status.fail(ExitCode::badData, notFound);
+}
+
+bool RecordFinder::findBankAccountById(int id, BankAccount *account)
+{
+    return m_session.fetch(CachedList::bankAccounts) &&
+           findFirst(
+               m_session.registry().bankAccounts(), [id](const BankAccount *a) { return a->id == id; }, account,
+               tr("Pankkitiliä ei löytynyt tunnisteella %1").arg(id));
+}
+
+bool RecordFinder::findBankAccountByName(const QString &name, BankAccount *account)
+{
+    const auto contains = [](const BankAccount &a, const QString &text) {
+        return a.name.toLower().contains(text) || a.shortName.toLower().contains(text);
+    };
+    return m_session.fetch(CachedList::bankAccounts) &&
+           findByText(m_session.registry().bankAccounts(), name, &BankAccount::name, contains, account,
+                      {tr("Pankkitiliä ei löytynyt nimellä %1"), tr("Nimellä %1 löytyi useita pankkitilejä")});
+}
+
+bool RecordFinder::findCustomerById(int id, Customer *customer)
+{
+    return m_session.fetch(CachedList::customers) &&
+           findFirst(
+               m_session.registry().customers(), [id](const Customer *c) { return c->id == id; }, customer,
+               tr("Asiakasta ei löytynyt tunnisteella %1").arg(id));
+}
+
+bool RecordFinder::findCustomerByNumber(int number, Customer *customer)
+{
+    return m_session.fetch(CachedList::customers) &&
+           findFirst(
+               m_session.registry().customers(), [number](const Customer *c) { return c->number == number; }, customer,
+               tr("Asiakasta ei löytynyt numerolla %1").arg(number));
+}
+
+bool RecordFinder::findCustomerByName(const QString &name, Customer *customer)
+{
+    const auto contains = [](const Customer &c, const QString &text) { return c.name.toLower().contains(text); };
+    return m_session.fetch(CachedList::customers) &&
+           findByText(m_session.registry().customers(), name, &Customer::name, contains, customer,
+                      {tr("Asiakasta ei löytynyt nimellä %1"), tr("Nimellä %1 löytyi useita asiakkaita")});
+}
+
+bool RecordFinder::findProductById(int id, Product *product)
+{
+    return m_session.fetch(CachedList::products) &&
+           findFirst(
+               m_session.registry().products(), [id](const Product *p) { return p->id == id; }, product,
+               tr("Tuotetta ei löytynyt tunnisteella %1").arg(id));
+}
+
+bool RecordFinder::findProductByNumber(const QString &number, Product *product)
+{
+    const auto contains = [](const Product &p, const QString &text) { return p.number.toLower().contains(text); };
+    return m_session.fetch(CachedList::products) &&
+           findByText(m_session.registry().products(), number, &Product::number, contains, product,
+                      {tr("Tuotetta ei löytynyt numerolla %1"), tr("Numerolla %1 löytyi useita tuotteita")});
+}
+
+bool RecordFinder::findProductByName(const QString &name, Product *product)
+{
+    const auto contains = [](const Product &p, const QString &text) { return p.name.toLower().contains(text); };
+    return m_session.fetch(CachedList::products) &&
+           findByText(m_session.registry().products(), name, &Product::name, contains, product,
+                      {tr("Tuotetta ei löytynyt nimellä %1"), tr("Nimellä %1 löytyi useita tuotteita")});
+}
+
+bool RecordFinder::findInvoiceById(int id, Invoice *invoice)
+{
+    return readOne(m_session.query()->fetchInvoiceDetails(id), &Query::invoiceDetails, invoice,
+                   tr("Laskua ei löytynyt tunnisteella %1").arg(id));
+}
+
+bool RecordFinder::findInvoiceByNumber(int number, Invoice *invoice)
+{
+    const QString notFound = tr("Laskua ei löytynyt numerolla %1").arg(number);
+    if (number < 0) // no invoice has such a number, and a search would take it for "any"
+        return m_status.fail(ExitCode::badData, notFound);
+    InvoiceCriteria criteria;
+    criteria.number = number;
+    return readOne(m_session.query()->fetchInvoiceDetails(&criteria), &Query::invoiceDetails, invoice, notFound);
+}
+
+bool RecordFinder::findInvoiceItemById(int id, InvoiceItem *item)
+{
+    return readOne(m_session.query()->fetchInvoiceItem(id), &Query::invoiceItem, item,
+                   tr("Laskuriviä ei löytynyt tunnisteella %1").arg(id));
+}
+
+bool RecordFinder::findPaymentById(int id, Payment *payment)
+{
+    return readOne(m_session.query()->fetchPayment(id), &Query::payment, payment,
+                   tr("Maksusuoritusta ei löytynyt tunnisteella %1").arg(id));
+}

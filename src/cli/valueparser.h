@@ -1,0 +1,59 @@
+#ifndef VALUEPARSER_H
+#define VALUEPARSER_H
+
+#include "decimalformat.h"
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QString>
+
+class CommandStatus;
+
+/** What an export writes. */
+enum PrintFormat { pdfFormat = 0, csvFormat = 1, finvoiceFormat = 2 };
+
+/**
+ * Turns parameter values into typed ones. Each parser stores the result and returns true, or sets the status to a
+ * message that names key and value (exit code 3), leaves the result alone, and returns false.
+ */
+class ValueParser {
+    Q_DECLARE_TR_FUNCTIONS(ValueParser)
+public:
+    explicit ValueParser(CommandStatus &status);
+
+    [[nodiscard]] bool parseIntValue(const QString &key, const QString &value, int &result);
+    /** A number that a search takes: negative ones mean "unset" there, and would find everything. */
+    [[nodiscard]] bool parseSearchNumber(const QString &key, const QString &value, int &result);
+    /** @param lastSaved  what "@" stands for */
+    [[nodiscard]] bool parseIdValue(const QString &key, const QString &value, int lastSaved, int &result);
+    /** "N1-N2", in any order */
+    [[nodiscard]] bool parseIntRangeValue(const QString &key, const QString &value, int &from, int &to);
+    /** yyyy-MM-dd */
+    [[nodiscard]] bool parseDateValue(const QString &key, const QString &value, QDate &result);
+    [[nodiscard]] bool parseDateRangeValue(const QString &key, const QString &value, QDate &from, QDate &to);
+
+    /** A number scaled by 10^fractionDigits; further decimals are cut. The int form keeps the low 32 bits. */
+    [[nodiscard]] bool parseDecimalNumberValue(const QString &key, const QString &value, int fractionDigits,
+                                               long long &result);
+    [[nodiscard]] bool parseDecimalNumberValue(const QString &key, const QString &value, int fractionDigits,
+                                               int &result);
+
+    /** A national reference number; "#" at its end is replaced by the check digit, an empty value is accepted. */
+    [[nodiscard]] bool parseReferenceNumber(const QString &key, const QString &value, QString &result);
+
+    /** On failure the format is PDF. */
+    [[nodiscard]] bool parsePrintFormat(const QString &key, const QString &value, int &format, bool allowFinvoice);
+    static int guessPrintFormat(const QString &fileName, bool allowFinvoice);
+    [[nodiscard]] bool parseCsvDelimiter(const QString &key, const QString &value, QString &delimiter);
+
+    /** The failure "Virheellinen luku". */
+    bool failNumber(const QString &key, const QString &value);
+
+private:
+    bool fail(const QString &message, const QString &key, const QString &value);
+
+    CommandStatus &m_status;
+    DecimalFormat m_format;
+};
+
+#endif

@@ -1,0 +1,31 @@
+#include "writetransaction.h"
+
+#include "database.h"
+#include "databasesession.h"
+#include "query.h"
+
+WriteTransaction::WriteTransaction(DatabaseSession &session)
+    : m_session(session), m_open(session.database()->beginWriting())
+{
+    if (m_open)
+        m_session.invalidateIfChanged();
+    else
+        m_session.failDatabase();
+}
+
+WriteTransaction::~WriteTransaction()
+{
+    if (m_open) {
+        m_session.query()->finish();
+        m_session.database()->rollback();
+    }
+}
+
+bool WriteTransaction::commit()
+{
+    m_session.query()->finish();
+    m_open = !m_session.database()->commit();
+    if (!m_open)
+        return true;
+    return m_session.failDatabase();
+}
