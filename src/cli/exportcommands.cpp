@@ -2,8 +2,8 @@
 
 #include "customer.h"
 #include "invoiceprintmodel.h"
-#include "outputfile.h"
 #include "parameterlist.h"
+#include "pdfprinter.h"
 #include "printscript.h"
 #include "printscriptmanager.h"
 #include "scriptloader.h"
@@ -14,6 +14,7 @@
 #include <QVector>
 
 #include <limits>
+#include <memory>
 
 namespace {
 
@@ -107,6 +108,13 @@ bool loadInvoiceScript(CommandContext &context, const QString &name, PrintScript
     return true;
 }
 
+bool failWriting(CommandContext &context, const QString &fileName, const QString &reason)
+{
+    return context.status.fail(
+        ExitCode::databaseFailure,
+        CommandContext::tr("Tiedostoa %1 ei voi kirjoittaa: %2").arg(QDir::toNativeSeparators(fileName), reason));
+}
+
 /** The name of an invoice's file; one that exists already is never overwritten. */
 QString fileNameFor(CommandContext &context, const QString &form, const Invoice &invoice, int printType)
 {
@@ -114,7 +122,7 @@ QString fileNameFor(CommandContext &context, const QString &form, const Invoice 
     const Customer *customer = context.session.registry().customerById(invoice.customerId, found);
     const QString name = TemplateStringHelper::substituteShortVariables(form, &invoice, customer, printType);
     const QFileInfo info(name);
-    return info.exists() ? TemplateStringHelper::addSuffixToFilename(info).filePath() : name;
+    return info.isFile() ? TemplateStringHelper::addSuffixToFilename(info).filePath() : name;
 }
 
 bool printInvoices(CommandContext &context, const Request &request, InvoicePrintModel &all,
@@ -124,22 +132,18 @@ bool printInvoices(CommandContext &context, const Request &request, InvoicePrint
     if (!loadInvoiceScript(context, request.script, manager))
         return false;
     const QString form = request.fileName.isEmpty() ? QStringLiteral("lasku-$i.pdf") : request.fileName;
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
+    const std::unique_ptr<QPrinter> printer = PdfPrinter::create();
     InvoicePrintModel single(&context.session.registry());
     single.setPrintType(all.printType());
     for (int i = 0; i < all.invoiceCount(); ++i) {
         const Invoice &invoice = *all.invoice(i);
         const QString name = fileNameFor(context, form, invoice, all.printType());
-        OutputFile file(name);
-        if (!file.create())
-            return context.status.fail(ExitCode::databaseFailure, file.lastError());
         single.clear();
         single.copyInvoice(&all, i);
-        printer.setOutputFileName(file.partName());
-        manager.print(&printer, &single, 0, allPages, false);
-        if (!file.commit("%%EOF"))
-            return context.status.fail(ExitCode::databaseFailure, file.lastError());
+        printer->setOutputFileName(name);
+        manager.print(printer.get(), &single, 0, allPages, false);
+        if (!manager.lastError().isEmpty())
+            return failWriting(context, name, manager.lastError());
         files.append({name, invoice.id, manager.hasException() ? exceptionText(manager) : QString()});
     }
     return true;
