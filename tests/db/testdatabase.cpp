@@ -128,6 +128,14 @@ void TestDatabase::clear()
                 .arg(QLatin1String(table)));
 }
 
+TestDatabase &TestDatabases::opened(const QString &backend)
+{
+    const auto [it, isNew] = m_databases.try_emplace(backend, backend);
+    if (isNew && !it->second.open())
+        qFatal("%s", qPrintable(it->second.database()->lastError()));
+    return it->second;
+}
+
 void addBackends()
 {
     QTest::addColumn<QString>("backend");
