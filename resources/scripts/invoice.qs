@@ -22,6 +22,7 @@ var COLOR = "#000";
 var THIN_LINE = 0.3;
 var THICK_LINE = 0.5;
 var POINT = 25.4 / 72;
+var ROUNDING = 0.001; // what a sum of measures may be off
 var WIDEST_EM = 0.95; // almost no letter is wider
 var DIGIT_EM = 0.556; // every digit, and about the minus sign
 var COMMA_EM = 0.278;
@@ -48,17 +49,21 @@ var HEADER_ROW_HEIGHT = 9;
 var HEADER_PADDING = 1.5;
 var HEADER_CAPTION_TOP = 0.9;
 var HEADER_VALUE_TOP = 4.1;
-var HEADER_SMALL_VALUE_TOP = 4.7;
+var HEADER_SMALL_LINE = 3.4;
+var HEADER_TEXT_WIDTH = HEADER_WIDTH - 2 * HEADER_PADDING;
+var HEADER_CELL_WIDTH = COLUMN_2 - COLUMN_1 - 2 * HEADER_PADDING;
 
 // The rows
 var BODY_GAP = 8; // above the table and below the closing part
+var CONTINUED_TOP = 27; // of the table on following pages
 var TABLE_HEAD_HEIGHT = 6;
 var TABLE_END_GAP = 1;
 var ROW_LINE = 4;
 var ROW_TEXT_LINE = 3.6;
 var ROW_GAP = 1;
 var COLUMN_GAP = 3;
-var LEAST_PRODUCT_WIDTH = 38;
+var LEAST_PRODUCT_WIDTH = 30;
+var MOST_PRODUCT_WIDTH = 110;
 var LEAST_ROWS_ON_LAST_PAGE = 2;
 
 // Notice, VAT breakdown and totals
@@ -69,8 +74,9 @@ var VAT_LINE = 4.5;
 var VAT_RULE_GAP = 1;
 var VAT_RIGHT_EDGES = [34, 60, 82, 108];
 var TOTAL_LINE = 5.5;
-var GRAND_TOTAL_LINE = 8;
-var GRAND_TOTAL_TOP = 1.5;
+var FRAME_HEIGHT = 8;
+var FRAME_LINE = 10;
+var FRAME_TEXT_TOP = 1.4;
 
 // The footer
 var FOOTER_LINE = 3.5;
@@ -105,8 +111,7 @@ var FORM_CAPTION_RIGHT = 19.2;
 var FORM_CONDITIONS_LINE = 2.4;
 var FORM_HEADING_LEFT = 3.5;
 var FORM_LINE = 4.1;
-var FORM_ACCOUNTS_TOP = 3;
-var FORM_ACCOUNT_LINE = 3.2;
+var FORM_ACCOUNTS_TOP = 3.5;
 var FORM_MOST_ACCOUNTS = 4;
 var FORM_MESSAGE_TOP = 2;
 var RF_MOST_DIGITS = 14;
@@ -148,10 +153,10 @@ var COLUMNS = [
     { key: "productName", least: LEAST_PRODUCT_WIDTH },
     { key: "quantity", least: 12, format: quantityText },
     { key: "unitCode", least: 7, most: 16, spare: true },
-    { key: "amountVatExcluded", least: 20, priced: true, without: OPTION_PRICE_WITH_VAT, format: priceText },
-    { key: "amount", least: 20, priced: true, option: OPTION_PRICE_WITH_VAT, format: priceText },
+    { key: "amountVatExcluded", least: 21, priced: true, without: OPTION_PRICE_WITH_VAT, format: priceText },
+    { key: "amount", least: 21, priced: true, option: OPTION_PRICE_WITH_VAT, format: priceText },
     { key: "discountPercent", least: 12, priced: true, spare: true, format: discountText },
-    { key: "vatRate", least: 10, priced: true, format: percentText },
+    { key: "vatRate", least: 11, priced: true, format: percentText },
     { key: "totalAmountVatExcluded", least: 16, priced: true, option: OPTION_VAT_EXCLUDED, format: formatCurrency },
     { key: "totalVatAmount", least: 14, priced: true, option: OPTION_VAT, format: formatCurrency },
     { key: "totalAmount", least: 16, priced: true, format: formatCurrency }
@@ -188,7 +193,7 @@ var TEXTS = {
         },
         columns: {
             productNumber: "Nro", productName: "Tuote", quantity: "Määrä", unitCode: "Yks.",
-            amountVatExcluded: "à veroton", amount: "à verollinen", discountPercent: "Alennus-%", vatRate: "ALV-%",
+            amountVatExcluded: "à veroton", amount: "à verollinen", discountPercent: "Ale-%", vatRate: "ALV-%",
             totalAmountVatExcluded: "Veroton", totalVatAmount: "ALV", totalAmount: "Verollinen"
         },
         totals: { vatExcluded: "Veroton", vat: "ALV", total: "Yhteensä EUR", paid: "Maksettu", open: "Avoinna EUR" },
@@ -233,7 +238,7 @@ var TEXTS = {
         },
         columns: {
             productNumber: "No.", productName: "Product", quantity: "Quantity", unitCode: "Unit",
-            amountVatExcluded: "Price excl. VAT", amount: "Price incl. VAT", discountPercent: "Discount %",
+            amountVatExcluded: "Price excl. VAT", amount: "Price incl. VAT", discountPercent: "Disc. %",
             vatRate: "VAT %", totalAmountVatExcluded: "Excl. VAT", totalVatAmount: "VAT", totalAmount: "Incl. VAT"
         },
         totals: { vatExcluded: "Excluding VAT", vat: "VAT", total: "Total EUR", paid: "Paid", open: "Open EUR" },
@@ -285,7 +290,7 @@ function printInvoice(invoice, seller)
             drawLetterHead(invoice, seller, letterHead);
         else
             drawContinuation(invoice, seller);
-        var y = drawTable(table, pages[i], i == 0 ? letterHead.bottom : HEADER_TOP);
+        var y = drawTable(table, pages[i], i == 0 ? letterHead.bottom : CONTINUED_TOP);
         if (last)
             drawClosing(invoice, closing, y + CLOSING_GAP);
         drawFooter(footer, footerBottom(last && invoice.hasForm));
@@ -307,6 +312,12 @@ function numberAt(path)
 {
     var value = Number(get(path));
     return isNaN(value) ? 0 : value;
+}
+
+function positiveText(path)
+{
+    var value = numberAt(path);
+    return value > 0 ? String(value) : "";
 }
 
 function dateText(value) { return value === undefined || isNaN(value) ? "" : formatDate(value, DATE_FORMAT); }
@@ -382,10 +393,11 @@ function readInvoice(path, seller)
     var invoice = { path: path, kind: kind, hasForm: kind != DELIVERY_NOTE, itemOptions: seller.itemOptions };
     invoice.texts = textsOf(textAt(path + "customer/language") || seller.language);
     invoice.title = invoice.texts.titles[kind] || invoice.texts.titles[0];
-    invoice.number = textAt(path + "number");
+    invoice.numberKey = kind == DELIVERY_NOTE ? "number" : "invoiceNumber";
+    invoice.number = positiveText(path + "number");
     invoice.referenceNumber = textAt(path + "referenceNumber");
     invoice.dueDate = dateText(get(path + "dueDate"));
-    invoice.customerNumber = textAt(path + "customer/number");
+    invoice.customerNumber = positiveText(path + "customer/number");
     invoice.address = joined([
         textAt(path + "customer/name"), textAt(path + "customer/contact"), textAt(path + "customer/streetName"),
         joined([textAt(path + "customer/postCode"), textAt(path + "customer/townName")], " "),
@@ -440,10 +452,11 @@ function barcodeDigits(invoice)
 
 var fontSize; // of the current font, points
 
-function font(size, style)
+// One face serves for all: a second one, such as bold, would make a file a third larger and slower to write.
+function font(size)
 {
     fontSize = size;
-    setFont(FONT, size, style);
+    setFont(FONT, size);
 }
 
 // Whether a text fits on a line; most texts are too short to need measuring.
@@ -515,7 +528,7 @@ function drawBlock(x, y, block)
 
 function shortenBlock(block, height)
 {
-    block.lines = Math.max(0, Math.min(block.lines, Math.floor(height / block.pitch)));
+    block.lines = Math.max(0, Math.min(block.lines, Math.floor(height / block.pitch + ROUNDING)));
     block.height = block.lines * block.pitch;
 }
 
@@ -523,7 +536,7 @@ function shortenBlock(block, height)
 
 function drawTitle(invoice, page, pageCount)
 {
-    font(HEADING_SIZE, "bold");
+    font(HEADING_SIZE);
     drawText(COLUMN_1, TOP_MARGIN, HEADER_WIDTH, 0, invoice.title);
     if (pageCount > 1) {
         font(SMALL_SIZE);
@@ -537,17 +550,16 @@ function layOutLetterHead(invoice, seller)
 {
     var head = { sender: joined([seller.streetName, seller.town, seller.country], "\n") };
     head.senderTop = TOP_MARGIN + (seller.logoHeight > 0 ? seller.logoHeight + LOGO_GAP : 0);
-    font(NORMAL_SIZE, "bold");
-    head.name = wrap(seller.name, ADDRESS_WIDTH, SENDER_LINE);
+    font(ADDRESS_SIZE);
+    head.name = wrap(seller.name, ADDRESS_WIDTH, ADDRESS_LINE);
     font(NORMAL_SIZE);
     head.sender = wrap(head.sender, ADDRESS_WIDTH, SENDER_LINE);
     head.receiverTop = Math.max(RECEIVER_TOP, head.senderTop + head.name.height + head.sender.height + RECEIVER_GAP);
-    head.cells = layOutHeader(headerCells(invoice));
+    head.header = layOutHeader(headerCells(invoice));
     font(ADDRESS_SIZE);
     head.receiver = wrap(invoice.address, ADDRESS_WIDTH, ADDRESS_LINE);
     shortenBlock(head.receiver, RECEIVER_MOST_LINES * ADDRESS_LINE);
-    head.headerBottom = HEADER_TOP + head.cells.rows * HEADER_ROW_HEIGHT;
-    head.bottom = Math.max(head.headerBottom, head.receiverTop + head.receiver.height) + BODY_GAP;
+    head.bottom = Math.max(head.header.bottom, head.receiverTop + head.receiver.height) + BODY_GAP;
     return head;
 }
 
@@ -555,13 +567,13 @@ function drawLetterHead(invoice, seller, head)
 {
     if (seller.logoHeight > 0)
         drawImage(LEFT_MARGIN, TOP_MARGIN, LOGO_WIDTH, seller.logoHeight, "seller/logo");
-    font(NORMAL_SIZE, "bold");
+    font(ADDRESS_SIZE);
     drawBlock(LEFT_MARGIN, head.senderTop, head.name);
     font(NORMAL_SIZE);
     drawBlock(LEFT_MARGIN, head.senderTop + head.name.height, head.sender);
     font(ADDRESS_SIZE);
     drawBlock(LEFT_MARGIN, head.receiverTop, head.receiver);
-    drawHeader(head.cells);
+    drawHeader(head.header);
 }
 
 // Captions and values of the header box, in reading order; the empty ones are not shown.
@@ -576,7 +588,7 @@ function headerCells(invoice)
     var delivery = textAt(path + "delivery");
     if (invoice.kind == DELIVERY_NOTE) {
         return filledCells(invoice.texts.header, [
-            "number", invoice.number, "date", date, "customerNumber", invoice.customerNumber,
+            invoice.numberKey, invoice.number, "date", date, "customerNumber", invoice.customerNumber,
             "deliveryDate", deliveryDate, "buyerRef", buyerRef, "sellerRef", sellerRef, "delivery", delivery
         ]);
     }
@@ -584,9 +596,9 @@ function headerCells(invoice)
     var customerId = textAt(path + "customer/businessId");
     var hasVatNumber = get(path + "customer/hasVatNumber") && !get(path + "customer/hasBusinessId");
     return filledCells(invoice.texts.header, [
-        "invoiceNumber", invoice.number, "date", date,
+        invoice.numberKey, invoice.number, "date", date,
+        "customerNumber", invoice.customerNumber, "dueDate", invoice.dueDate,
         "reminderDate", isReminder ? dateText(currentDate()) : "",
-        "dueDate", invoice.dueDate, "customerNumber", invoice.customerNumber,
         "referenceNumber", invoice.referenceNumber, "paymentTerms", textAt(path + "paymentTerms"),
         "interestOnArrears", interest > 0 ? percentText(interest) + "\u00a0%" : "",
         "buyerRef", buyerRef, "sellerRef", sellerRef, "deliveryDate", deliveryDate, "delivery", delivery,
@@ -606,85 +618,89 @@ function filledCells(captions, keysAndValues)
     return cells;
 }
 
-// Gives each cell its row and column. A value that needs the whole width lets the next narrow one go first, so that no
-// hole is left.
+// Puts the cells into rows of two, or of one that needs the whole width. A wide one lets the next narrow one go first,
+// so that no hole is left; what is too long even so gets small letters and two rows.
 function layOutHeader(cells)
 {
-    var narrow = COLUMN_2 - COLUMN_1 - 2 * HEADER_PADDING;
-    var placed = { cells: [], rows: 0 };
+    var header = { rows: [], bottom: HEADER_TOP };
+    var addRow = function (first, second) {
+        header.rows.push({ cells: second ? [first, second] : [first], top: header.bottom });
+        header.bottom += (first.block ? 2 : 1) * HEADER_ROW_HEIGHT;
+    };
+    var single = null;
     var waiting = [];
-    var place = function (cell, column) {
-        cell.column = column;
-        cell.row = placed.rows;
-        placed.cells.push(cell);
-    };
-    var column = 0;
-    var placeWaiting = function () {
-        while (waiting.length > 0) {
-            place(waiting.shift(), 0);
-            placed.rows++;
-        }
-    };
     font(NORMAL_SIZE);
     for (var i = 0; i < cells.length; i++) {
-        cells[i].wide = !fits(cells[i].value, narrow);
-        if (cells[i].wide) {
+        var wide = !fits(cells[i].value, HEADER_CELL_WIDTH);
+        if (wide)
+            wrapHeaderValue(cells[i]);
+        if (wide && single) {
             waiting.push(cells[i]);
+        } else if (wide) {
+            addRow(cells[i]);
+        } else if (single) {
+            addRow(single, cells[i]);
+            single = null;
+            while (waiting.length > 0)
+                addRow(waiting.shift());
         } else {
-            place(cells[i], column);
-            placed.rows += column;
-            column = 1 - column;
+            single = cells[i];
         }
-        if (column == 0)
-            placeWaiting();
     }
-    placed.rows += column;
-    placeWaiting();
-    return placed;
+    if (single)
+        addRow(single);
+    while (waiting.length > 0)
+        addRow(waiting.shift());
+    return header;
+}
+
+function wrapHeaderValue(cell)
+{
+    if (fits(cell.value, HEADER_TEXT_WIDTH))
+        return;
+    font(SMALL_SIZE);
+    cell.block = wrap(cell.value, HEADER_TEXT_WIDTH, HEADER_SMALL_LINE);
+    shortenBlock(cell.block, 2 * HEADER_ROW_HEIGHT - HEADER_VALUE_TOP);
+    font(NORMAL_SIZE);
 }
 
 function drawHeader(header)
 {
-    if (header.rows == 0)
+    if (header.rows.length == 0)
         return;
-    drawRect(COLUMN_1, HEADER_TOP, HEADER_WIDTH, header.rows * HEADER_ROW_HEIGHT);
-    for (var row = 1; row < header.rows; row++) {
-        var y = HEADER_TOP + row * HEADER_ROW_HEIGHT;
-        drawLine(COLUMN_1, y, COLUMN_1 + HEADER_WIDTH, y);
-    }
+    drawRect(COLUMN_1, HEADER_TOP, HEADER_WIDTH, header.bottom - HEADER_TOP);
     font(SMALL_SIZE);
-    for (var i = 0; i < header.cells.length; i++) {
-        var cell = header.cells[i];
-        cell.x = (cell.column == 0 ? COLUMN_1 : COLUMN_2) + HEADER_PADDING;
-        cell.y = HEADER_TOP + cell.row * HEADER_ROW_HEIGHT;
-        cell.width = (cell.wide ? HEADER_WIDTH : COLUMN_2 - COLUMN_1) - 2 * HEADER_PADDING;
-        if (!cell.wide && cell.column == 0)
-            drawLine(COLUMN_2, cell.y, COLUMN_2, cell.y + HEADER_ROW_HEIGHT);
-        drawText(cell.x, cell.y + HEADER_CAPTION_TOP, cell.width, 0, cell.caption);
+    for (var i = 0; i < header.rows.length; i++) {
+        var row = header.rows[i];
+        if (i > 0)
+            drawLine(COLUMN_1, row.top, COLUMN_1 + HEADER_WIDTH, row.top);
+        if (row.cells.length > 1)
+            drawLine(COLUMN_2, row.top, COLUMN_2, row.top + HEADER_ROW_HEIGHT);
+        for (var j = 0; j < row.cells.length; j++) {
+            var cell = row.cells[j];
+            cell.x = (j == 0 ? COLUMN_1 : COLUMN_2) + HEADER_PADDING;
+            drawText(cell.x, row.top + HEADER_CAPTION_TOP, HEADER_CELL_WIDTH, 0, cell.caption);
+            if (cell.block)
+                drawBlock(cell.x, row.top + HEADER_VALUE_TOP, cell.block);
+        }
     }
     font(NORMAL_SIZE);
-    for (var j = 0; j < header.cells.length; j++)
-        drawHeaderValue(header.cells[j]);
-}
-
-function drawHeaderValue(cell)
-{
-    if (!cell.wide || fits(cell.value, cell.width)) {
-        drawText(cell.x, cell.y + HEADER_VALUE_TOP, cell.width, 0, cell.value);
-    } else {
-        font(SMALL_SIZE);
-        drawFitted(cell.x, cell.y + HEADER_SMALL_VALUE_TOP, cell.width, cell.value);
-        font(NORMAL_SIZE);
+    for (var k = 0; k < header.rows.length; k++) {
+        for (var m = 0; m < header.rows[k].cells.length; m++) {
+            var value = header.rows[k].cells[m];
+            if (!value.block)
+                drawText(value.x, header.rows[k].top + HEADER_VALUE_TOP, HEADER_TEXT_WIDTH, 0, value.value);
+        }
     }
 }
 
 // The top of a following page tells whose document it is, should the sheets get mixed.
 function drawContinuation(invoice, seller)
 {
-    font(NORMAL_SIZE, "bold");
+    font(NORMAL_SIZE);
     drawFitted(LEFT_MARGIN, TOP_MARGIN, ADDRESS_WIDTH, seller.name);
     font(SMALL_SIZE);
-    drawText(COLUMN_1, PAGE_NUMBER_TOP, HEADER_WIDTH, 0, prefixed(invoice.texts.header.invoiceNumber, invoice.number));
+    drawText(COLUMN_1, PAGE_NUMBER_TOP, HEADER_WIDTH, 0, prefixed(invoice.texts.header[invoice.numberKey], invoice.number));
 }
 
 // ------------------------------------------------------------------------------------------------------------- Rows
@@ -757,7 +773,7 @@ function placeColumns(table, captions)
     var x = LEFT_MARGIN;
     for (var m = 0; m < columns.length; m++) {
         if (columns[m].key == "productName") {
-            columns[m].width = LEAST_PRODUCT_WIDTH + Math.max(0, room);
+            columns[m].width = Math.min(MOST_PRODUCT_WIDTH, LEAST_PRODUCT_WIDTH + Math.max(0, room));
             table.product = columns[m];
         }
         columns[m].caption = captions[columns[m].key];
@@ -806,7 +822,8 @@ function drawTable(table, page, top)
         y += table.rows[row].height;
     }
     y += TABLE_END_GAP;
-    drawLine(LEFT_MARGIN, y, RIGHT_EDGE, y);
+    if (page.end > page.first)
+        drawLine(LEFT_MARGIN, y, RIGHT_EDGE, y);
     return y;
 }
 
@@ -836,7 +853,7 @@ function paginate(table, firstTop, closingHeight, footerHeight, hasForm)
 {
     var around = TABLE_HEAD_HEIGHT + TABLE_END_GAP + footerHeight + BODY_GAP;
     var room = function (page, last) {
-        return footerBottom(last && hasForm) - (page == 0 ? firstTop : HEADER_TOP) - around
+        return footerBottom(last && hasForm) - (page == 0 ? firstTop : CONTINUED_TOP) - around
             - (last ? CLOSING_GAP + closingHeight : 0);
     };
     var left = 0;
@@ -893,12 +910,13 @@ function totalLines(invoice)
     var lines = [
         { caption: captions.vatExcluded, amount: invoice.totalVatExcluded },
         { caption: vatCaption, amount: invoice.totalVat },
-        { caption: captions.total, amount: invoice.total, grand: true }
+        { caption: captions.total, amount: invoice.total }
     ];
     if (invoice.balance != invoice.total) {
         lines.push({ caption: captions.paid, amount: invoice.balance - invoice.total });
-        lines.push({ caption: captions.open, amount: invoice.balance, grand: true });
+        lines.push({ caption: captions.open, amount: invoice.balance });
     }
+    lines[invoice.payable ? lines.length - 1 : 2].framed = true;
     return lines;
 }
 
@@ -906,7 +924,7 @@ function totalsHeight(lines)
 {
     var height = 0;
     for (var i = 0; i < lines.length; i++)
-        height += lines[i].grand ? GRAND_TOTAL_LINE : TOTAL_LINE;
+        height += lines[i].framed ? FRAME_LINE : TOTAL_LINE;
     return height;
 }
 
@@ -917,19 +935,23 @@ function drawClosing(invoice, closing, top)
     if (closing.hasVat)
         drawVat(invoice, top + closing.vatTop);
     var y = top;
-    for (var i = 0; i < closing.totals.length; i++) {
-        var line = closing.totals[i];
-        if (line.grand) {
-            drawLine(COLUMN_1, y, RIGHT_EDGE, y);
-            font(ADDRESS_SIZE, "bold");
-        } else {
-            font(NORMAL_SIZE);
-        }
-        var lineTop = y + (line.grand ? GRAND_TOTAL_TOP : 0);
-        drawText(COLUMN_1, lineTop, HEADER_WIDTH, 0, line.caption);
-        drawTextRight(COLUMN_1, lineTop, HEADER_WIDTH, 0, formatCurrency(line.amount));
-        y += line.grand ? GRAND_TOTAL_LINE : TOTAL_LINE;
+    for (var i = 0; i < closing.totals.length; i++)
+        y = drawTotal(closing.totals[i], y);
+}
+
+// The sum that the document is about stands in a frame. Returns where the line ends.
+function drawTotal(total, y)
+{
+    if (total.framed) {
+        setPen(COLOR, THICK_LINE);
+        drawRect(COLUMN_1, y, HEADER_WIDTH, FRAME_HEIGHT);
+        setPen(COLOR, THIN_LINE);
     }
+    font(total.framed ? ADDRESS_SIZE : NORMAL_SIZE);
+    var textTop = y + (total.framed ? FRAME_TEXT_TOP : 0);
+    drawText(COLUMN_1 + HEADER_PADDING, textTop, HEADER_WIDTH, 0, total.caption);
+    drawTextRight(COLUMN_1, textTop, HEADER_WIDTH - HEADER_PADDING, 0, formatCurrency(total.amount));
+    return y + (total.framed ? FRAME_LINE : TOTAL_LINE);
 }
 
 function drawVat(invoice, top)
@@ -1058,14 +1080,15 @@ function drawFormCaptions(form)
     drawSideCaption(form.account, formY(0));
     drawSideCaption(form.payee, formY(FORM_ACCOUNTS_END));
     drawSideCaption(form.payer, formY(FORM_PAYEE_END));
-    drawSideCaption(form.signature, formY(FORM_PAYER_END) - captionHeight(form.signature));
     drawSideCaption(form.fromAccount, formY(FORM_PAYER_END));
     drawCaption(FORM_COLUMN_2 + FORM_PADDING, formY(FORM_REFERENCE_START), form.reference);
     drawCaption(FORM_COLUMN_2 + FORM_PADDING, formY(FORM_PAYER_END), form.dueDate);
     drawCaption(FORM_EURO + FORM_PADDING, formY(FORM_PAYER_END), "Euro");
     drawCaption(FORM_IBAN, FORM_TOP, "IBAN");
     drawCaption(FORM_BIC, FORM_TOP, "BIC");
-    // Upwards along the left edge, ending at the form's lower thick line
+    font(FORM_CONDITIONS_SIZE); // smaller, to keep clear of the heading
+    drawSideCaption(form.signature, formY(FORM_PAYER_END) - captionHeight(form.signature));
+    // Upwards along the left edge, beginning at the thick line below the payer
     font(SMALL_SIZE);
     rotate(-90);
     drawText(-formY(FORM_PAYER_END) + FORM_CAPTION_TOP, FORM_HEADING_LEFT, FORM_HEIGHT, 0, form.heading);
@@ -1090,9 +1113,10 @@ function drawFormParties(invoice, seller)
     var x = FORM_COLUMN_1 + FORM_PADDING;
     var width = FORM_COLUMN_2 - FORM_PADDING - x;
     font(ROW_SIZE);
-    for (var i = 0; i < seller.accounts.length && i < FORM_MOST_ACCOUNTS; i++)
-        drawAccount(seller.accounts[i], FORM_TOP + FORM_ACCOUNTS_TOP + i * FORM_ACCOUNT_LINE, x, FORM_IBAN, FORM_BIC,
-                    FORM_COLUMN_2);
+    var count = Math.min(seller.accounts.length, FORM_MOST_ACCOUNTS);
+    var line = Math.min(FORM_LINE, (FORM_ACCOUNTS_END * FORM_UNIT - FORM_ACCOUNTS_TOP) / Math.max(1, count));
+    for (var i = 0; i < count; i++)
+        drawAccount(seller.accounts[i], FORM_TOP + FORM_ACCOUNTS_TOP + i * line, x, FORM_IBAN, FORM_BIC, FORM_COLUMN_2);
     drawParty(joined([seller.name, seller.streetName, seller.town], "\n"), x, width, FORM_ACCOUNTS_END, FORM_PAYEE_END);
     drawParty(invoice.address, x, width, FORM_PAYEE_END, FORM_PAYER_END);
 }

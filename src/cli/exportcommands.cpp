@@ -2,7 +2,7 @@
 
 #include "customer.h"
 #include "invoiceprintmodel.h"
-#include "outputfile.h"
+#include "partfile.h"
 #include "parameterlist.h"
 #include "printscript.h"
 #include "printscriptmanager.h"
@@ -131,12 +131,12 @@ bool printInvoices(CommandContext &context, const Request &request, InvoicePrint
     for (int i = 0; i < all.invoiceCount(); ++i) {
         const Invoice &invoice = *all.invoice(i);
         const QString name = fileNameFor(context, form, invoice, all.printType());
-        OutputFile file(name);
+        PartFile file(name);
         if (!file.create())
             return context.status.fail(ExitCode::databaseFailure, file.lastError());
         single.clear();
         single.copyInvoice(&all, i);
-        printer.setOutputFileName(file.partName());
+        printer.setPartFileName(file.partName());
         manager.print(&printer, &single, 0, allPages, false);
         if (!file.commit("%%EOF"))
             return context.status.fail(ExitCode::databaseFailure, file.lastError());

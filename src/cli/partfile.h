@@ -1,5 +1,5 @@
-#ifndef OUTPUTFILE_H
-#define OUTPUTFILE_H
+#ifndef PARTFILE_H
+#define PARTFILE_H
 
 #include <QCoreApplication>
 #include <QString>
@@ -8,14 +8,14 @@
  * A file that others write, put in place only when it is whole: it is written under another name in the same folder
  * and renamed at the end. An existing file stays as it was until then, and nothing half-made is left.
  */
-class OutputFile {
-    Q_DECLARE_TR_FUNCTIONS(OutputFile)
+class PartFile {
+    Q_DECLARE_TR_FUNCTIONS(PartFile)
 public:
-    explicit OutputFile(const QString &fileName);
+    explicit PartFile(const QString &fileName);
     /** Removes what was not committed. */
-    ~OutputFile();
-    OutputFile(const OutputFile &) = delete;
-    OutputFile &operator=(const OutputFile &) = delete;
+    ~PartFile();
+    PartFile(const PartFile &) = delete;
+    PartFile &operator=(const PartFile &) = delete;
 
     /** Makes the empty file. @return false, with the reason in lastError(), when the folder does not take it */
     [[nodiscard]] bool create();

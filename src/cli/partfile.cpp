@@ -1,4 +1,4 @@
-#include "outputfile.h"
+#include "partfile.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -14,25 +14,25 @@ constexpr int tailLength = 64;
 
 } // namespace
 
-OutputFile::OutputFile(const QString &fileName) : m_fileName(fileName)
+PartFile::PartFile(const QString &fileName) : m_fileName(fileName)
 {
     // Short and without the name's own letters, so that any name that is legal makes a legal one.
     m_partName = QStringLiteral("%1/.billora-%2.part").arg(QFileInfo(fileName).path()).arg(::getpid());
 }
 
-OutputFile::~OutputFile()
+PartFile::~PartFile()
 {
     if (!m_partName.isEmpty())
         QFile::remove(m_partName);
 }
 
-bool OutputFile::fail(const QString &reason)
+bool PartFile::fail(const QString &reason)
 {
     m_lastError = tr("Tiedostoa %1 ei voi kirjoittaa: %2").arg(m_fileName, reason);
     return false;
 }
 
-bool OutputFile::create()
+bool PartFile::create()
 {
     if (QFileInfo(m_fileName).isDir())
         return fail(QString::fromLocal8Bit(std::strerror(EISDIR)));
@@ -45,7 +45,7 @@ bool OutputFile::create()
     return true;
 }
 
-bool OutputFile::endsWith(const QByteArray &ending) const
+bool PartFile::endsWith(const QByteArray &ending) const
 {
     QFile file(m_partName);
     if (!file.open(QIODevice::ReadOnly))
@@ -54,7 +54,7 @@ bool OutputFile::endsWith(const QByteArray &ending) const
     return file.readAll().trimmed().endsWith(ending);
 }
 
-bool OutputFile::commit(const QByteArray &ending)
+bool PartFile::commit(const QByteArray &ending)
 {
     if (!endsWith(ending))
         return fail(tr("levy on täynnä tai kirjoitus keskeytyi"));

@@ -1,0 +1,498 @@
+#include "printscriptmanager.h"
+#include "query.h"
+#include "registry.h"
+#include "sampledocuments.h"
+#include "scriptloader.h"
+#include "sqlitedatabase.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QPrinter>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using Sample::Document;
+
+Q_DECLARE_METATYPE(Sample::Document)
+
+namespace {
+
+constexpr double formTop = 202;
+const QRectF form(QPointF(3.5, formTop), QPointF(203, 297));
+const QRectF quietZone(QPointF(0, 275), QPointF(143.4, 297)); // the bars, 20 mm on both sides, what is below
+
+/** A word of a page with its box in millimetres from the page's top left corner. */
+struct Word {
+    int page;
+    QRectF box;
+    QString text;
+
+    /** About the place of the letters in the box, which has room for accents and descenders. */
+    QRectF letters() const { return box.adjusted(0.1, box.height() * 0.3, -0.1, box.height() * -0.25); }
+};
+
+} // namespace
+
+/**
+ * Prints documents of a sample company with the built-in layout and reads the paper with poppler-utils and zbar-tools,
+ * which must be installed. With BILLORA_KEEP set to a folder the PDF files are kept there, to be looked at.
+ */
+class InvoiceScriptTest : public QObject {
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void titles_data();
+    void titles();
+    void contents_data();
+    void contents();
+    void rowsOnPages_data();
+    void rowsOnPages();
+    void barcode_data();
+    void barcode();
+    void oddSettings_data();
+    void oddSettings();
+    void severalInvoices();
+
+private:
+    bool store(Document &document);
+    QString print(Document document);
+    QString print(InvoicePrintModel &model);
+    QByteArray run(const QString &program, const QStringList &arguments);
+    QString text(const QString &pdf) { return QString::fromUtf8(run("pdftotext", {"-layout", pdf, "-"})); }
+    int pageCount(const QString &pdf);
+    QVector<Word> words(const QString &pdf);
+    void checkPlaces(const QVector<Word> &words, bool hasForm);
+
+    QTemporaryDir m_folder;
+    QString m_pdfFolder;
+    SQLiteDatabase m_database;
+    std::unique_ptr<Query> m_query;
+    Registry m_registry;
+    PrintScriptManager m_manager;
+    int m_number = 1000;
+};
+
+void InvoiceScriptTest::initTestCase()
+{
+    QVERIFY(m_folder.isValid());
+    m_pdfFolder = qEnvironmentVariable("BILLORA_KEEP", m_folder.path());
+    QVERIFY(QDir().mkpath(m_pdfFolder));
+    QSettings file(m_folder.filePath("settings.ini"), QSettings::IniFormat);
+    file.setValue("filename", m_folder.filePath("sample.db"));
+    file.setValue("name", QString::fromUtf8(Sample::sellerName));
+    m_database.setCreateIfNotExist(true);
+    QVERIFY2(m_database.open(&file), qPrintable(m_database.lastError()));
+    m_query.reset(m_database.query());
+    m_registry.setDatabase(&m_database);
+    m_registry.setConnected(true);
+    for (BankAccount account : Sample::bankAccounts())
+        QVERIFY(m_query->saveBankAccount(&account));
+    QVERIFY(m_registry.fetchSettings(m_query.get()));
+    Sample::fillSeller(*m_registry.settings());
+    QVERIFY(m_registry.fetchBankAccounts(m_query.get()));
+    QVERIFY(ScriptLoader(&m_registry).loadInvoiceScript(&m_manager));
+    QVERIFY2(!m_manager.hasException(), qPrintable(m_manager.exception()));
+}
+
+bool InvoiceScriptTest::store(Document &document)
+{
+    Invoice &invoice = document.invoice;
+    bool ok = m_query->saveCustomer(&document.customer) && m_registry.fetchCustomers(m_query.get());
+    invoice.customerId = document.hasCustomer ? document.customer.id : -1;
+    invoice.number = ++m_number;
+    for (const InvoiceItem &row : qAsConst(document.items))
+        invoice.totalAmount += static_cast<int>(row.totalAmountVatIncluded());
+    if (!document.hasBalance)
+        invoice.balance = invoice.totalAmount;
+    ok = ok && m_query->saveInvoice(&invoice);
+    for (int i = 0; i < document.items.size(); ++i) {
+        document.items[i].invoiceId = invoice.id;
+        document.items[i].rowNumber = i;
+        ok = ok && m_query->saveInvoiceItem(&document.items[i]);
+    }
+    return ok;
+}
+
+/** Stores the document's records and prints it. @return the PDF's file name, empty on failure */
+QString InvoiceScriptTest::print(Document document)
+{
+    Settings &settings = *m_registry.settings();
+    const Settings usual = settings;
+    for (auto property = document.settings.cbegin(); property != document.settings.cend(); ++property)
+        settings.setProperty(property.key(), property.value());
+    if (document.hasLogo)
+        settings.sellerLogo = Sample::logo();
+    QString pdf;
+    if (store(document)) {
+        InvoicePrintModel model(&m_registry);
+        model.criteria()->id = document.invoice.id;
+        model.setPrintType(document.printType);
+        pdf = print(model);
+    }
+    settings = usual;
+    return pdf;
+}
+
+QString InvoiceScriptTest::print(InvoicePrintModel &model)
+{
+    if (!model.run() || model.invoiceCount() == 0)
+        return QString();
+    const char *tag = QTest::currentDataTag();
+    const QString name = QStringLiteral("%1/%2 %3.pdf").arg(m_pdfFolder, QTest::currentTestFunction(), tag ? tag : "");
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(name);
+    printer.setPageSize(QPageSize(QPageSize::A4));
+    m_manager.print(&printer, &model, 0, std::numeric_limits<int>::max(), false);
+    if (m_manager.hasException()) {
+        qWarning() << m_manager.exception() << m_manager.exceptionLineNumber() << m_manager.backTrace();
+        return QString();
+    }
+    return name;
+}
+
+QByteArray InvoiceScriptTest::run(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    process.start(program, arguments);
+    if (!process.waitForFinished() || process.exitStatus() != QProcess::NormalExit)
+        qWarning("%s cannot be run: are poppler-utils and zbar-tools installed?", qPrintable(program));
+    return process.readAllStandardOutput();
+}
+
+int InvoiceScriptTest::pageCount(const QString &pdf)
+{
+    const QRegularExpression line(QStringLiteral("Pages: +(\\d+)"));
+    return line.match(QString::fromUtf8(run("pdfinfo", {pdf}))).captured(1).toInt();
+}
+
+QVector<Word> InvoiceScriptTest::words(const QString &pdf)
+{
+    static const QRegularExpression line(
+        QStringLiteral("<page|<word xMin=\"(.+)\" yMin=\"(.+)\" xMax=\"(.+)\" yMax=\"(.+)\">(.*)</word>"));
+    constexpr double millimetres = 25.4 / 72;
+    QVector<Word> result;
+    int page = 0;
+    auto matches = line.globalMatch(QString::fromUtf8(run("pdftotext", {"-bbox", pdf, "-"})));
+    while (matches.hasNext()) {
+        const QRegularExpressionMatch match = matches.next();
+        const auto at = [&match](int group) { return match.captured(group).toDouble() * millimetres; };
+        if (match.captured(5).isEmpty())
+            ++page;
+        else
+            result << Word{page, QRectF(QPointF(at(1), at(2)), QPointF(at(3), at(4))), match.captured(5)};
+    }
+    return result;
+}
+
+/** No word stands on another one, outside the margins, in the barcode's quiet zone or means a missing value. */
+void InvoiceScriptTest::checkPlaces(const QVector<Word> &words, bool hasForm)
+{
+    static const QRegularExpression missing(QStringLiteral("undefined|NaN|null|Invalid"));
+    QVERIFY(words.size() > 5);
+    const int lastPage = words.last().page;
+    for (int i = 0; i < words.size(); ++i) {
+        const Word &word = words.at(i);
+        const QByteArray name = word.text.toUtf8() + " on page " + QByteArray::number(word.page);
+        const bool aboveForm = hasForm && word.page == lastPage;
+        const bool inForm = aboveForm && word.box.top() >= formTop;
+        const QRectF page(QPointF(19.8, 9.5), QPointF(195.2, aboveForm ? 200 : 287.5));
+        QVERIFY2((inForm ? form : page).contains(word.box), name + " leaves the margins");
+        QVERIFY2(!inForm || !quietZone.intersects(word.box), name + " is in the barcode's quiet zone");
+        QVERIFY2(!missing.match(word.text).hasMatch(), name);
+        for (int j = i + 1; j < words.size() && words.at(j).page == word.page; ++j)
+            QVERIFY2(!word.letters().intersects(words.at(j).letters()),
+                     name + " stands on " + words.at(j).text.toUtf8());
+    }
+}
+
+void InvoiceScriptTest::titles_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<QString>("other"); ///< another word of the language
+    const struct {
+        const char *language;
+        QStringList titles;
+        QString other, otherOnDeliveryNote;
+    } languages[] = {
+        {"fi", {"LASKU", "KORKOLASKU", "HYVITYSLASKU", "MAKSUMUISTUTUS", "KUITTI", "LÄHETE"}, "Eräpäivä", "Määrä"},
+        {"sv - ruotsi",
+         {"FAKTURA", "RÄNTEFAKTURA", "KREDITFAKTURA", "BETALNINGSPÅMINNELSE", "KVITTO", "FÖLJESEDEL"},
+         "Förfallodag",
+         "Antal"},
+        {"en",
+         {"INVOICE", "INTEREST INVOICE", "CREDIT NOTE", "PAYMENT REMINDER", "RECEIPT", "DELIVERY NOTE"},
+         "Due date",
+         "Quantity"},
+    };
+    for (const auto &row : languages) {
+        for (int kind = 0; kind < row.titles.size(); ++kind)
+            QTest::addRow("%s %d", row.language, kind)
+                << row.language << kind << row.titles.at(kind)
+                << (kind == InvoicePrintModel::deliveryNote ? row.otherOnDeliveryNote : row.other);
+    }
+    QTest::newRow("unknown language") << "xx" << 0 << "LASKU"
+                                      << "Eräpäivä";
+    QTest::newRow("name of a property of every object") << "toString" << 0 << "LASKU"
+                                                        << "Eräpäivä";
+}
+
+void InvoiceScriptTest::titles()
+{
+    QFETCH(QString, language);
+    QFETCH(int, kind);
+    QFETCH(QString, title);
+    QFETCH(QString, other);
+    Document document = Sample::ordinary();
+    document.customer.setProperty("l", language);
+    (kind < InvoicePrintModel::reminder ? document.invoice.type : document.printType) = kind;
+    const QString pdf = print(document);
+    QVERIFY(!pdf.isEmpty());
+    const QString page = text(pdf);
+    QVERIFY2(page.contains(QRegularExpression(QStringLiteral(" %1\n").arg(title))), qPrintable(page));
+    QVERIFY2(page.contains(other), qPrintable(page));
+    QCOMPARE(page.contains("BIC"), kind != InvoicePrintModel::deliveryNote);
+    checkPlaces(words(pdf), kind != InvoicePrintModel::deliveryNote);
+}
+
+void InvoiceScriptTest::contents_data()
+{
+    using namespace Sample;
+    QTest::addColumn<Document>("document");
+    QTest::addColumn<int>("pages");
+    QTest::addColumn<QStringList>("present");
+    QTest::addColumn<QStringList>("absent");
+    QTest::newRow("ordinary") << ordinary() << 1 << QStringList{"Kiitos tilauksesta!", "ALV 25,5.%",
+                                                                "Yhteensä EUR +92,69", "11,5.%",
+                                                                "Metsälän Putki",      "www.metsalanputki.example",
+                                                                "LVI-työt vuodesta"}
+                              << QStringList{"Ale-%", "sivu", "Avoinna", "Pyydämme"};
+    QTest::newRow("discounted")
+        << discounted() << 1
+        << QStringList{"Ale-%",  "12,5",     "rahti sisältyy",           "0,125",
+                       "8,4321", "1.2.2026", "13,5 +71,06 +9,59 +80,65", "25,5 +70,91 +18,08 +88,99"}
+        << QStringList{"ALV 25,5"};
+    QTest::newRow("partly paid reminder") << partlyPaid(InvoicePrintModel::reminder, 5000) << 1
+                                          << QStringList{"Pyydämme ystävällisesti", "Kiitos tilauksesta!",
+                                                         "Maksettu +−42,69", "Avoinna EUR +50,00", "Muistutuspäivä"}
+                                          << QStringList{};
+    QTest::newRow("receipt") << partlyPaid(InvoicePrintModel::receipt, 0) << 1
+                             << QStringList{"Ei maksettavaa", "Yhteensä EUR +92,69", "Avoinna EUR +0,00"}
+                             << QStringList{"Käyttäkää", "Pyydämme"};
+    QTest::newRow("credit note") << creditNote() << 1 << QStringList{"Ei maksettavaa", "−1,5", "EUR +−92,69"}
+                                 << QStringList{"Käyttäkää"};
+    QTest::newRow("delivery note") << ofType(Invoice::invoiceType, InvoicePrintModel::deliveryNote) << 1
+                                   << QStringList{"Kupariputki", "1,5", "PO-4711", "Kiitos tilauksesta!"}
+                                   << QStringList{"25,5", "92,69", "29,56", "Viitenumero", "Eräpäivä", "TILISIIRTO"};
+    QTest::newRow("swedish") << inLanguage("sv", discounted()) << 1
+                             << QStringList{"Rabatt-%", "Totalt EUR", "Använd referensnumret", "Saajan"}
+                             << QStringList{};
+    QTest::newRow("english") << inLanguage("en", discounted()) << 1
+                             << QStringList{"Disc. %", "Total EUR", "RF60 1001 1720", "Recipient"}
+                             << QStringList{"Saaja", "Mottagare"};
+    QTest::newRow("extreme") << extreme() << 2 << QStringList{"9 999 999,99", "1 234,5678", "92125 37425 25398 97737",
+                                                              "sivu 1/2",     "sivu 2/2",   "Itäväylän laajennus",
+                                                              "Kumpp. Oy",    "Toinen rivi"}
+                             << QStringList{};
+    QTest::newRow("bare") << bare() << 1 << QStringList{"LASKU", "EUR +0,00"}
+                          << QStringList{"Päiväys", "Asiakasnumero", "Kiitos"};
+}
+
+void InvoiceScriptTest::contents()
+{
+    QFETCH(Document, document);
+    QFETCH(QStringList, present);
+    QFETCH(QStringList, absent);
+    const QString pdf = print(document);
+    QVERIFY(!pdf.isEmpty());
+    QTEST(pageCount(pdf), "pages");
+    const QString all = text(pdf);
+    for (const QString &pattern : qAsConst(present))
+        QVERIFY2(all.contains(QRegularExpression(pattern)),
+                 qPrintable(pattern + QStringLiteral(" is missing in\n") + all));
+    for (const QString &pattern : qAsConst(absent))
+        QVERIFY2(!all.contains(QRegularExpression(pattern)), qPrintable(pattern + QStringLiteral(" is in\n") + all));
+    checkPlaces(words(pdf), document.printType != InvoicePrintModel::deliveryNote);
+}
+
+// One row more, and the totals or the form must go to another page.
+void InvoiceScriptTest::rowsOnPages_data()
+{
+    QTest::addColumn<int>("rows");
+    for (int rows : {0, 1, 2, 3, 8, 9, 10, 11, 12, 32, 33, 34, 35, 36, 51, 52, 53, 54, 77, 78, 79, 80, 95})
+        QTest::addRow("%d", rows) << rows;
+}
+
+void InvoiceScriptTest::rowsOnPages()
+{
+    QFETCH(int, rows);
+    const QString pdf = print(Sample::manyRows(rows));
+    QVERIFY(!pdf.isEmpty());
+    const QVector<Word> all = words(pdf);
+    checkPlaces(all, true);
+    const int lastPage = all.last().page;
+    QStringList numbers;
+    QSet<int> pagesWithRows;
+    int pageNumbers = 0;
+    for (const Word &word : all) {
+        const bool inForm = word.page == lastPage && word.box.top() >= formTop;
+        if (word.box.left() < 20.5 && !inForm && word.text.size() == 4 && word.text.toInt() > 0) {
+            numbers << word.text;
+            pagesWithRows << word.page;
+        }
+        if (word.box.right() > 190 && word.text.contains(QLatin1Char(',')) && word.box.height() < 4 && !inForm)
+            QVERIFY2(qAbs(word.box.right() - 195) < 0.3 || qAbs(word.box.right() - 193.5) < 0.3, qPrintable(word.text));
+        pageNumbers += word.text == QStringLiteral("%1/%2").arg(word.page).arg(lastPage);
+    }
+    QStringList expected;
+    for (int i = 0; i < rows; ++i)
+        expected << QString::number(1001 + i);
+    QCOMPARE(numbers, expected);
+    QCOMPARE(pagesWithRows.size(), rows > 0 ? lastPage : 0);
+    QCOMPARE(pageNumbers, lastPage > 1 ? lastPage : 0);
+}
+
+void InvoiceScriptTest::barcode_data()
+{
+    using namespace Sample;
+    QTest::addColumn<Document>("document");
+    QTest::addColumn<QByteArray>("digits");
+    const QByteArray digits = "421123456000007850000926900000000000000010011720260217";
+    QTest::newRow("invoice") << ordinary() << digits;
+    QTest::newRow("english") << inLanguage("en", ordinary()) << digits;
+    QTest::newRow("last of several pages")
+        << manyRows(40) << QByteArray("421123456000007850092904700000000000000010011720260217");
+    QTest::newRow("open balance") << partlyPaid(InvoicePrintModel::reminder, 5000)
+                                  << QByteArray(digits).replace("00009269", "00005000");
+    QTest::newRow("paid") << partlyPaid(InvoicePrintModel::ownType, 0) << QByteArray();
+    QTest::newRow("paid too much") << partlyPaid(InvoicePrintModel::ownType, -1) << QByteArray();
+    QTest::newRow("receipt") << ofType(Invoice::invoiceType, InvoicePrintModel::receipt) << QByteArray();
+    QTest::newRow("credit note") << creditNote() << QByteArray();
+    QTest::newRow("credit note of a positive sum") << ofType(Invoice::creditNote) << QByteArray();
+    QTest::newRow("delivery note") << ofType(Invoice::invoiceType, InvoicePrintModel::deliveryNote) << QByteArray();
+    Document document = ordinary();
+    document.settings["invoiceForm/barcodeVisible"] = false;
+    QTest::newRow("switched off") << document << QByteArray();
+    document = ordinary();
+    document.invoice.dueDate = QDate();
+    QTest::newRow("no due date") << document << digits.left(48) + "000000";
+    document = ordinary();
+    document.invoice.referenceNumber.clear();
+    QTest::newRow("no reference") << document << QByteArray();
+    document.invoice.referenceNumber = "RF6010011720";
+    QTest::newRow("letters in the reference") << document << QByteArray();
+    document = ordinary();
+    document.items[0].amount = 10000000000LL;
+    QTest::newRow("a million") << document << QByteArray();
+}
+
+void InvoiceScriptTest::barcode()
+{
+    QFETCH(Document, document);
+    const QString pdf = print(document);
+    QVERIFY(!pdf.isEmpty());
+    const QString image = m_folder.filePath("page");
+    const QString page = QString::number(pageCount(pdf));
+    run("pdftoppm", {"-r", "200", "-gray", "-singlefile", "-f", page, pdf, image});
+    QTEST(run("zbarimg", {"-q", "--raw", image + ".pgm"}).trimmed(), "digits");
+}
+
+void InvoiceScriptTest::oddSettings_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<QString>("present");
+    QTest::addColumn<QString>("absent");
+    const auto options = QStringLiteral("invoiceForm/invoiceItemOptions");
+    QTest::newRow("options empty") << options << ""
+                                   << "Nro"
+                                   << "verollinen";
+    QTest::newRow("options no number") << options << "x"
+                                       << "Nro"
+                                       << "verollinen";
+    QTest::newRow("options none") << options << "0"
+                                  << "à veroton"
+                                  << "Nro";
+    QTest::newRow("options price with VAT") << options << "2"
+                                            << "à verollinen"
+                                            << "à veroton";
+    QTest::newRow("options all") << options << "-1"
+                                 << "à verollinen"
+                                 << "à veroton";
+    QTest::newRow("options beyond 32 bits") << options << "99999999999999999999"
+                                            << "Tuote"
+                                            << "undefined";
+    QTest::newRow("logo none") << "invoiceForm/logoHeight"
+                               << "-4"
+                               << "Tuote"
+                               << "undefined";
+    QTest::newRow("logo no number") << "invoiceForm/logoHeight"
+                                    << "x"
+                                    << "Tuote"
+                                    << "undefined";
+    QTest::newRow("logo huge") << "invoiceForm/logoHeight"
+                               << "1e9"
+                               << "Tuote"
+                               << "undefined";
+    QTest::newRow("language") << "invoiceForm/language"
+                              << "sv - ruotsi"
+                              << "Produkt"
+                              << "Tuote";
+    QTest::newRow("language unknown") << "invoiceForm/language"
+                                      << "-"
+                                      << "Tuote"
+                                      << "undefined";
+    QTest::newRow("web address") << "seller/webAddress" << QString("x").repeated(80) << "…"
+                                 << "undefined";
+    QTest::newRow("footer of ten lines") << "invoiceForm/footer/text2" << QString("a\n").repeated(9) + "z"
+                                         << "z"
+                                         << "undefined";
+    QTest::newRow("reminder text") << "invoiceForm/reminderText" << QString("pitkä sana ").repeated(99) << "Tuote"
+                                   << "pitkä";
+}
+
+void InvoiceScriptTest::oddSettings()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, value);
+    QFETCH(QString, present);
+    QFETCH(QString, absent);
+    Document document = Sample::discounted();
+    document.settings[key] = value;
+    const QString pdf = print(document);
+    QVERIFY(!pdf.isEmpty());
+    const QString all = text(pdf);
+    QVERIFY2(all.contains(present), qPrintable(all));
+    QVERIFY2(!all.contains(absent), qPrintable(all));
+    checkPlaces(words(pdf), true);
+}
+
+void InvoiceScriptTest::severalInvoices()
+{
+    Document finnish = Sample::ordinary();
+    Document swedish = Sample::inLanguage("sv", Sample::manyRows(20));
+    QVERIFY(store(finnish) && store(swedish));
+    InvoicePrintModel model(&m_registry);
+    model.criteria()->numberFrom = finnish.invoice.number;
+    const QString pdf = print(model);
+    QVERIFY(!pdf.isEmpty());
+    QCOMPARE(pageCount(pdf), 3);
+    const QStringList pages = text(pdf).split(QChar::FormFeed);
+    QVERIFY(pages.at(0).contains("LASKU") && pages.at(0).contains("Yhteensä EUR") && !pages.at(0).contains("sivu"));
+    QVERIFY(pages.at(1).contains("sida 1/2") && !pages.at(1).contains("IBAN"));
+    QVERIFY(pages.at(2).contains("sida 2/2") && pages.at(2).contains("IBAN"));
+}
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    InvoiceScriptTest test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_invoicescript.moc"
