@@ -1,31 +1,33 @@
 #include "csvexport.h"
 
 #include "constants.h"
+#include "outputfile.h"
 
-CsvExport::CsvExport(const QString &fileName, const QString &delimiter)
-    : m_file(fileName), m_csv(&m_stream),
+CsvExport::CsvExport(OutputFile &file, const QString &delimiter)
+    : m_stream(file.device()), m_csv(&m_stream),
       m_priceFormat(Constants::amountFractionDigits, Constants::amountMinFractionDigits),
       m_sumFormat(Constants::totalAmountFractionDigits, Constants::totalAmountMinFractionDigits),
       m_quantityFormat(Constants::quantityFractionDigits, Constants::quantityMinFractionDigits),
       m_percentageFormat(Constants::percentageFractionDigits, Constants::percentageMinFractionDigits)
 {
+    m_stream.setCodec("UTF-8");
     m_csv.setDelimiters(delimiter);
 }
 
-bool CsvExport::open()
+bool CsvExport::save(const QString &fileName, const QString &delimiter, QString &error,
+                     const std::function<void(CsvExport &)> &write)
 {
-    if (!m_file.open())
-        return false;
-    m_stream.setDevice(m_file.device());
-    m_stream.setCodec("UTF-8");
-    return true;
-}
-
-bool CsvExport::finish()
-{
-    m_stream.flush();
-    m_stream.setDevice(nullptr);
-    return m_file.commit();
+    OutputFile file(fileName);
+    bool ok = file.open();
+    if (ok) {
+        CsvExport out(file, delimiter);
+        write(out);
+        out.m_stream.flush();
+        ok = file.commit();
+    }
+    if (!ok)
+        error = file.errorString();
+    return ok;
 }
 
 QString CsvExport::price(long long amount) const

@@ -3,10 +3,13 @@
 
 #include "csv.h"
 #include "decimalformat.h"
-#include "outputfile.h"
 
 #include <QDate>
 #include <QTextStream>
+
+#include <functional>
+
+class OutputFile;
 
 /**
  * A CSV file being written (UTF-8 without a byte order mark), and the form of values in it: numbers without grouping
@@ -14,13 +17,15 @@
  */
 class CsvExport {
 public:
-    /** @param delimiter  one character */
-    CsvExport(const QString &fileName, const QString &delimiter);
-
-    [[nodiscard]] bool open();
-    /** @return whether the file was written whole; on failure an earlier file of that name is as it was */
-    [[nodiscard]] bool finish();
-    QString errorString() const { return m_file.errorString(); }
+    /**
+     * Writes a file.
+     * @param delimiter  one character
+     * @param error      set to the file's error text on failure; an earlier file of that name is then as it was
+     * @param write      writes the lines
+     * @return whether the file was written whole
+     */
+    [[nodiscard]] static bool save(const QString &fileName, const QString &delimiter, QString &error,
+                                   const std::function<void(CsvExport &)> &write);
 
     void field(const QString &value) { m_csv.writeField(value); }
     void endLine() { m_csv.writeLine(); }
@@ -33,7 +38,8 @@ public:
     static QString date(const QDate &date); ///< empty for an invalid date
 
 private:
-    OutputFile m_file;
+    CsvExport(OutputFile &file, const QString &delimiter);
+
     QTextStream m_stream;
     CSV m_csv;
     DecimalFormat m_priceFormat, m_sumFormat, m_quantityFormat, m_percentageFormat;

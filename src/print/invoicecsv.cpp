@@ -42,7 +42,6 @@ template <QString Customer::*member> QString customerText(const InvoiceLine &l)
 
 template <QString InvoiceItem::*member> QString itemText(const ItemLine &l) { return l.item.*member; }
 
-// The last column of the header is the last of the line: one row is one column.
 const CsvColumn<InvoiceLine> invoiceColumns[] = {
     {QT_TRANSLATE_NOOP("InvoicePrintModel", "Numero"),
      [](const InvoiceLine &l) { return QString::number(l.invoice.number); }},
@@ -100,28 +99,20 @@ const CsvColumn<ItemLine> itemColumns[] = {
 
 bool InvoicePrintModel::exportToCSV(const QString &fileName, const QString &format)
 {
-    CsvExport out(fileName, format);
-    if (!out.open()) {
-        m_lastError = out.errorString();
-        return false;
-    }
-    writeTitles<InvoicePrintModel>(out, invoiceColumns);
-    out.endLine();
-    for (const Invoice &invoice : qAsConst(m_invoices)) {
-        writeValues(out, invoiceColumns, InvoiceLine{out, *this, invoice, customer(invoice)});
+    return CsvExport::save(fileName, format, m_lastError, [this](CsvExport &out) {
+        writeTitles<InvoicePrintModel>(out, invoiceColumns);
         out.endLine();
-    }
-    writeTitles<InvoicePrintModel>(out, itemColumns);
-    out.endLine();
-    for (const Invoice &invoice : qAsConst(m_invoices)) {
-        for (const InvoiceItem &item : items(invoice)) {
-            writeValues(out, itemColumns, ItemLine{out, invoice, item});
+        for (const Invoice &invoice : qAsConst(m_invoices)) {
+            writeValues(out, invoiceColumns, InvoiceLine{out, *this, invoice, customer(invoice)});
             out.endLine();
         }
-    }
-    if (!out.finish()) {
-        m_lastError = out.errorString();
-        return false;
-    }
-    return true;
+        writeTitles<InvoicePrintModel>(out, itemColumns);
+        out.endLine();
+        for (const Invoice &invoice : qAsConst(m_invoices)) {
+            for (const InvoiceItem &item : items(invoice)) {
+                writeValues(out, itemColumns, ItemLine{out, invoice, item});
+                out.endLine();
+            }
+        }
+    });
 }
