@@ -14,7 +14,11 @@ constexpr auto environmentOptions = QScriptEngine::ExcludeSuperClassContents | Q
 } // namespace
 
 // A resource in a static library is linked only when it is named; the macro does not work inside a namespace or class.
-static void initScriptsResource() { Q_INIT_RESOURCE(scripts); }
+static void initScriptResources()
+{
+    Q_INIT_RESOURCE(scripts);
+    Q_INIT_RESOURCE(listscripts);
+}
 
 ScriptRunner::ScriptRunner(const char *prelude, const char *entryPoint)
     : m_prelude(prelude), m_entryPointName(QString::fromLatin1(entryPoint)),
@@ -24,7 +28,7 @@ ScriptRunner::ScriptRunner(const char *prelude, const char *entryPoint)
 
 bool ScriptRunner::load(const QString &fileName)
 {
-    initScriptsResource();
+    initScriptResources();
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return false;
