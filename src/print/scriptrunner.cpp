@@ -67,15 +67,21 @@ int ScriptRunner::callForNumber(const char *function, int defaultNumber)
 /** Only what runs inside evaluate() can be aborted: a QScriptValue::call() cannot. */
 QScriptValue ScriptRunner::evaluate(const QScriptProgram &program)
 {
-    m_engine->clearExceptions(); // else the error of one document would be told for the next
+    clearExceptions(); // else the error of one document would be told for the next
     QTimer limit;
-    limit.setSingleShot(true);
-    QObject::connect(&limit, &QTimer::timeout, [this] {
-        const QString message = tr("Tulostuspohjan suoritus kesti yli %1 sekuntia").arg(m_timeLimitMs / 1000);
+    QObject::connect(&limit, &QTimer::timeout, [this, &limit] {
+        limit.start(checkIntervalMs); // again, should a function in between not pass it on
+        const QString message = tr("Tulostuspohjan suoritus kesti yli %1 sekuntia").arg(m_timeLimitMs / 1000.0);
         m_engine->abortEvaluation(m_engine->currentContext()->throwError(message));
     });
     limit.start(m_timeLimitMs);
     return m_engine->evaluate(program);
+}
+
+void ScriptRunner::clearExceptions()
+{
+    if (m_engine)
+        m_engine->clearExceptions();
 }
 
 QString ScriptRunner::exception() const { return m_engine ? m_engine->uncaughtException().toString() : QString(); }
