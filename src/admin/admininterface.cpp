@@ -1,6 +1,9 @@
 #include "admininterface.h"
 
 #include "databasecommands.h"
+#include "importcommands.h"
+#include "maintenancecommands.h"
+#include "printscriptcommands.h"
 #include "settingscommands.h"
 
 // A resource in a static library is linked only when it is named; the macro does not work inside a namespace or class.
@@ -15,6 +18,16 @@ constexpr Command commands[] = {
     {"--forget-database", "forget-database", call<parseForgetDatabaseCommand>},
     {"--find-settings", "find-settings", call<parseFindSettingsCommand>},
     {"--edit-settings", "edit-settings", call<parseEditSettingsCommand>},
+    {"--find-print-scripts", "find-print-scripts", call<parseFindPrintScriptsCommand>},
+    {"--add-print-script", "add-print-script", call<parseSavePrintScriptCommand, SaveCommandMode::add>},
+    {"--edit-print-script", "edit-print-script", call<parseSavePrintScriptCommand, SaveCommandMode::edit>},
+    {"--export-print-script", "export-print-script", call<parseExportPrintScriptCommand>},
+    {"--remove-print-scripts", "remove-print-scripts", call<parseRemovePrintScriptsCommand>},
+    {"--select-invoice-script", "select-invoice-script", call<parseSelectInvoiceScriptCommand>},
+    {"--import-payments", "import-payments", call<parseImportPaymentsCommand>},
+    {"--check-database", "check-database", call<parseCheckDatabaseCommand>},
+    {"--optimize-database", "optimize-database", call<parseOptimizeDatabaseCommand>},
+    {"--backup-database", "backup-database", call<parseBackupDatabaseCommand>},
 };
 
 } // namespace

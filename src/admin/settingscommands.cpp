@@ -94,7 +94,7 @@ void parseEditSettingsCommand(CommandContext &context, QStringList &args)
     if (!context.session.ensureOpen())
         return;
     const ParameterList words = parseParameters(args);
-    WriteTransaction transaction(context.session, context.status);
+    WriteTransaction transaction(context.session);
     if (!transaction.hasBegun())
         return;
     context.session.invalidate(CachedList::settings);

@@ -70,7 +70,7 @@ void CommandInterface::parseArguments(QStringList &args)
             status.command = QLatin1String(command->name);
         command->run(*this, args);
     }
-    if (!status.hasFailed())
+    if (!status.needsAnswer())
         return;
     m_context.response.startResponse(QStringLiteral("ERROR"));
     m_context.response.printMessage(status.prefixedError());

@@ -5,6 +5,13 @@ void CommandStatus::clear()
     command.clear();
     lastError.clear();
     exitCode = 0;
+    m_answered = false;
+}
+
+void CommandStatus::endAnswered(ExitCode code)
+{
+    exitCode = static_cast<int>(code);
+    m_answered = true;
 }
 
 bool CommandStatus::fail(ExitCode code, const QString &message)

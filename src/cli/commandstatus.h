@@ -16,6 +16,11 @@ public:
 
     void clear();
     bool hasFailed() const { return exitCode != 0; }
+    /** Whether the failure still needs a response that tells it. */
+    bool needsAnswer() const { return hasFailed() && !m_answered; }
+
+    /** Ends the command line with an exit code after a response that tells why in its records. */
+    void endAnswered(ExitCode code);
 
     /** Sets message and exit code. @return false, so that a failing operation ends in one line */
     bool fail(ExitCode code, const QString &message);
@@ -23,6 +28,9 @@ public:
 
     /** The message as it is answered: behind the command's name and a colon. */
     QString prefixedError() const;
+
+private:
+    bool m_answered = false;
 };
 
 #endif

@@ -44,11 +44,27 @@ int DatabaseSession::findDatabaseIndex(int number) const
     return index;
 }
 
+bool DatabaseSession::ensureOpen()
+{
+    if (m_database && m_isSuspect && !m_query->isConnected())
+        m_lostNumber = m_number;
+    m_isSuspect = false;
+    if (!m_lostNumber)
+        return openDatabase(-1, true);
+    const int lost = *m_lostNumber; // tried again by every command until it works or another one is chosen
+    const bool opened = openDatabase(lost, false);
+    if (!opened)
+        m_lostNumber = lost;
+    return opened;
+}
+
 bool DatabaseSession::openDatabase(int number, bool onlyIfClosed)
 {
     if (onlyIfClosed && m_database)
         return true;
     closeDatabase();
+    m_number = number;
+    m_lostNumber.reset();
     const int index = findDatabaseIndex(number);
     if (index < 0) {
         // The exit code stays: a data command without any database answers nothing.
@@ -102,8 +118,6 @@ void DatabaseSession::closeDatabase()
     m_database.reset();
 }
 
-std::unique_ptr<Query> DatabaseSession::newQuery() const { return std::unique_ptr<Query>(m_database->query()); }
-
 bool DatabaseSession::fetch(CachedList list)
 {
     const int index = static_cast<int>(list);
@@ -131,9 +145,14 @@ void DatabaseSession::invalidateIfChanged()
     }
 }
 
-bool DatabaseSession::failQuery() { return failQuery(*m_query); }
-
-bool DatabaseSession::failQuery(const Query &query)
+bool DatabaseSession::failQuery()
 {
-    return m_status.fail(ExitCode::databaseFailure, query.lastError());
+    m_isSuspect = true;
+    return m_status.fail(ExitCode::databaseFailure, m_query->lastError());
+}
+
+bool DatabaseSession::failDatabase()
+{
+    m_isSuspect = true;
+    return m_status.fail(ExitCode::databaseFailure, m_database->lastError());
 }

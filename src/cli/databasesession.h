@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 
 #include <memory>
+#include <optional>
 
 class CommandStatus;
 class Database;
@@ -32,8 +33,8 @@ public:
      * @return false with the reason in the status; when the list has no such database, the exit code stays as it was
      */
     [[nodiscard]] bool openDatabase(int number, bool onlyIfClosed);
-    /** What every data command does first. */
-    [[nodiscard]] bool ensureOpen() { return openDatabase(-1, true); }
+    /** What every data command does first. A server connection that was lost is made anew. */
+    [[nodiscard]] bool ensureOpen();
     void closeDatabase();
 
     Registry &registry() { return m_registry; }
@@ -53,7 +54,8 @@ public:
 
     /** The query's error as the status, database failure. */
     bool failQuery();
-    bool failQuery(const Query &query);
+    /** The database's error likewise. */
+    bool failDatabase();
 
 private:
     static constexpr int listCount = 5;
@@ -71,6 +73,9 @@ private:
     std::unique_ptr<Database> m_database;
     std::unique_ptr<Query> m_query;
     ListState m_lists[listCount];
+    int m_number = -1;               ///< what the open database was asked for by
+    bool m_isSuspect = false;        ///< a statement failed: the connection may be gone
+    std::optional<int> m_lostNumber; ///< as m_number, of a database whose connection is gone
 };
 
 #endif

@@ -163,7 +163,7 @@ void applyDefaults(CommandContext &context, Invoice &invoice)
 
 bool saveInvoice(CommandContext &context, const ParameterList &words, SaveCommandMode mode, Invoice &saved)
 {
-    WriteTransaction transaction(context.session, context.status);
+    WriteTransaction transaction(context.session);
     if (!transaction.hasBegun())
         return false;
     if (!context.session.fetch(CachedList::bankAccounts) || !context.session.fetch(CachedList::settings))
@@ -262,7 +262,7 @@ void findInvoices(CommandContext &context, const Search &search)
 /** @return the number of invoices removed, -1 on failure */
 int removeInvoices(CommandContext &context, const Search &search)
 {
-    WriteTransaction transaction(context.session, context.status);
+    WriteTransaction transaction(context.session);
     if (!transaction.hasBegun())
         return -1;
     Query *query = context.session.query();

@@ -116,7 +116,7 @@ bool checkRequired(CommandContext &context, SaveCommandMode mode, const State &s
 
 bool saveInvoiceItem(CommandContext &context, const ParameterList &words, SaveCommandMode mode, State &state)
 {
-    WriteTransaction transaction(context.session, context.status);
+    WriteTransaction transaction(context.session);
     if (!transaction.hasBegun() || !applyParameters(context, words, parameters, mode, state) ||
         !checkRequired(context, mode, state))
         return false;
@@ -175,7 +175,7 @@ void parseRemoveInvoiceItemCommand(CommandContext &context, QStringList &args)
         context.status.fail(ExitCode::badData, CommandContext::tr("Parametri findByInvoiceItemId on pakollinen"));
         return;
     }
-    WriteTransaction transaction(context.session, context.status);
+    WriteTransaction transaction(context.session);
     Query *query = context.session.query();
     if (!transaction.hasBegun())
         return;

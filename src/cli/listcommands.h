@@ -27,7 +27,7 @@ template <class Kind> void saveListRecord(CommandContext &context, QStringList &
     if (!context.session.ensureOpen())
         return;
     const ParameterList words = parseParameters(args);
-    WriteTransaction transaction(context.session, context.status);
+    WriteTransaction transaction(context.session);
     if (!transaction.hasBegun())
         return;
     if (mode == SaveCommandMode::edit)
@@ -62,7 +62,7 @@ template <class Kind> void saveListRecord(CommandContext &context, QStringList &
 
 template <class Kind> bool removeListRecords(CommandContext &context, const typename Kind::Search &search, int &count)
 {
-    WriteTransaction transaction(context.session, context.status);
+    WriteTransaction transaction(context.session);
     if (!transaction.hasBegun())
         return false;
     context.session.invalidate(Kind::list);

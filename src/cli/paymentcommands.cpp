@@ -86,7 +86,7 @@ constexpr Parameter<State> parameters[] = {
 
 bool savePayment(CommandContext &context, const ParameterList &words, SaveCommandMode mode, State &state)
 {
-    WriteTransaction transaction(context.session, context.status);
+    WriteTransaction transaction(context.session);
     if (!transaction.hasBegun() || !applyParameters(context, words, parameters, mode, state))
         return false;
     if (mode == SaveCommandMode::edit && !state.found)
@@ -142,7 +142,7 @@ void findPayments(CommandContext &context, const Search &search)
 /** The balances of the invoices stay as they are. @return the number of payments removed, -1 on failure */
 int removePayments(CommandContext &context, const Search &search)
 {
-    WriteTransaction transaction(context.session, context.status);
+    WriteTransaction transaction(context.session);
     if (!transaction.hasBegun())
         return -1;
     Query *query = context.session.query();

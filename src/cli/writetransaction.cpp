@@ -1,17 +1,16 @@
 #include "writetransaction.h"
 
-#include "commandstatus.h"
 #include "database.h"
 #include "databasesession.h"
 #include "query.h"
 
-WriteTransaction::WriteTransaction(DatabaseSession &session, CommandStatus &status)
-    : m_session(session), m_status(status), m_open(session.database()->beginWriting())
+WriteTransaction::WriteTransaction(DatabaseSession &session)
+    : m_session(session), m_open(session.database()->beginWriting())
 {
     if (m_open)
         m_session.invalidateIfChanged();
     else
-        m_status.fail(ExitCode::databaseFailure, m_session.database()->lastError());
+        m_session.failDatabase();
 }
 
 WriteTransaction::~WriteTransaction()
@@ -28,5 +27,5 @@ bool WriteTransaction::commit()
     m_open = !m_session.database()->commit();
     if (!m_open)
         return true;
-    return m_status.fail(ExitCode::databaseFailure, m_session.database()->lastError());
+    return m_session.failDatabase();
 }

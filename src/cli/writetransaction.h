@@ -1,7 +1,6 @@
 #ifndef WRITETRANSACTION_H
 #define WRITETRANSACTION_H
 
-class CommandStatus;
 class DatabaseSession;
 
 /**
@@ -10,7 +9,7 @@ class DatabaseSession;
  */
 class WriteTransaction {
 public:
-    WriteTransaction(DatabaseSession &session, CommandStatus &status);
+    explicit WriteTransaction(DatabaseSession &session);
     ~WriteTransaction();
     WriteTransaction(const WriteTransaction &) = delete;
     WriteTransaction &operator=(const WriteTransaction &) = delete;
@@ -21,7 +20,6 @@ public:
 
 private:
     DatabaseSession &m_session;
-    CommandStatus &m_status;
     bool m_open;
 };
 

@@ -1,5 +1,6 @@
 #include "database.h"
 
+#include "databasecheck.h"
 #include "query.h"
 #include "schemaupgrade.h"
 
@@ -48,17 +49,29 @@ Query *Database::query()
     return new Query(statement, this);
 }
 
-bool Database::createTables(const QString &script, const QString &sellerName)
+bool Database::readCreationScript(QStringList &statements)
 {
     initSqlResource();
-    QFile file(script);
+    QFile file(creationScript());
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return fail(file.errorString());
     QTextStream stream(&file);
-    QSqlQuery statement(connection(false));
-    QString line;
+    QString line; // each holds one statement
     while (stream.readLineInto(&line)) {
-        if (!line.trimmed().isEmpty() && !statement.exec(line))
+        if (!line.trimmed().isEmpty())
+            statements.append(line);
+    }
+    return true;
+}
+
+bool Database::createTables(const QString &sellerName)
+{
+    QStringList statements;
+    if (!readCreationScript(statements))
+        return false;
+    QSqlQuery statement(connection(false));
+    for (const QString &sql : qAsConst(statements)) {
+        if (!statement.exec(sql))
             return fail(statement.lastError().text());
     }
     const std::unique_ptr<Query> records(query());
@@ -80,4 +93,35 @@ bool Database::upgradeStep(QSqlQuery &query, int fromVersion)
             return fail(query.lastError().text());
     }
     return true;
+}
+
+DatabaseCheck Database::check() const { return DatabaseCheck(connection(false), isSQLite()); }
+
+bool Database::optimize(QStringList &added)
+{
+    QStringList statements;
+    if (!readCreationScript(statements))
+        return false;
+    QSqlQuery query(connection(false));
+    if (!query.exec(isSQLite()
+                        ? QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'index'")
+                        : QStringLiteral("SELECT indexname FROM pg_indexes WHERE schemaname = current_schema()")))
+        return fail(query.lastError().text());
+    QStringList existing;
+    while (query.next())
+        existing.append(query.value(0).toString());
+    for (const QString &sql : qAsConst(statements)) {
+        const QString name = sql.section(QLatin1Char(' '), 2, 2);
+        if (!sql.startsWith(QLatin1String("CREATE INDEX ")) || existing.contains(name))
+            continue;
+        if (!query.exec(sql))
+            return fail(query.lastError().text());
+        added.append(name);
+    }
+    return query.exec(QStringLiteral("ANALYZE")) || fail(query.lastError().text());
+}
+
+bool Database::backupTo(const QString &)
+{
+    return fail(tr("Varmuuskopio tehdään vain SQLite-tietokannasta; käytä ohjelmaa pg_dump"));
 }

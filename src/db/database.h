@@ -3,7 +3,9 @@
 
 #include <QObject>
 #include <QString>
+#include <QStringList>
 
+class DatabaseCheck;
 class Query;
 class QSettings;
 class QSqlDatabase;
@@ -52,6 +54,17 @@ public:
      */
     virtual long long foreignChanges() { return -1; }
 
+    /** A look at file, schema and books, on this connection. */
+    DatabaseCheck check() const;
+    /**
+     * Adds the indexes that a database made elsewhere lacks and refreshes the planner's statistics; columns and data
+     * stay as they are.
+     * @param added  the names of the indexes made
+     */
+    [[nodiscard]] bool optimize(QStringList &added);
+    /** Copies the database, consistent while others write, to a file that must not exist. SQLite only. */
+    [[nodiscard]] virtual bool backupTo(const QString &filename);
+
     /** The text of the last failure. */
     QString lastError() const;
 
@@ -62,18 +75,21 @@ protected:
     Database(const QString &connectionName, QObject *parent);
 
     QSqlDatabase connection(bool open) const;
-    /** Runs a creation script from the resources, one statement a line, then writes the first records. */
-    bool createTables(const QString &script, const QString &sellerName);
+    /** Runs the creation script, then writes the first records. */
+    bool createTables(const QString &sellerName);
     /**
      * Runs the statements of the step from a version to the next, up to the first that fails.
      * @return the outcome of the last statement run
      */
     bool upgradeStep(QSqlQuery &query, int fromVersion);
+    /** The statements of the creation script. @return false when the resource cannot be read */
+    bool readCreationScript(QStringList &statements);
     /** Sets the text of lastError() and returns false. */
     bool fail(const QString &message);
 
-    /** The variant of the schema upgrade's statements. */
+    /** The variant of the statements that the backends do not share. */
     virtual bool isSQLite() const = 0;
+    virtual QString creationScript() const = 0;
 
     const QString m_connectionName;
     bool m_createIfNotExist = false;

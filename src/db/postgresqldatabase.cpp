@@ -43,7 +43,7 @@ bool PostgreSQLDatabase::open(QSettings *settings)
 
     const int version = upgrade();
     if (version == noTables)
-        return createTables(QStringLiteral(":/sql/postgresql.sql"), settings->value(QStringLiteral("name")).toString());
+        return createTables(settings->value(QStringLiteral("name")).toString());
     return version >= noSettingsRow;
 }
 

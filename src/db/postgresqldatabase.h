@@ -20,6 +20,7 @@ public:
 
 protected:
     bool isSQLite() const override { return false; }
+    QString creationScript() const override { return QStringLiteral(":/sql/postgresql.sql"); }
 
 private:
     /** Outcomes of upgrade() that are not a schema version. */

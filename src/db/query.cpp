@@ -81,6 +81,13 @@ void Query::keepStatement(const QString &sql)
     m_statements.insert(sql, m_query);
 }
 
+bool Query::isConnected()
+{
+    const bool connected = m_query.exec(QStringLiteral("SELECT 1"));
+    m_query.finish();
+    return connected;
+}
+
 int Query::firstInteger(const QString &sql, const QVariantList &values)
 {
     if (!execute(sql, values))
@@ -249,6 +256,18 @@ bool Query::deletePaymentsBetween(int first, int last)
 }
 
 bool Query::deletePrintScript(int id) { return execute(QStringLiteral("DELETE FROM print_script WHERE id = ?"), {id}); }
+
+bool Query::fetchInvoiceReferences()
+{
+    return execute(
+        QStringLiteral("SELECT id, reference_number FROM invoice WHERE reference_number <> '' ORDER BY number, id"));
+}
+
+void Query::invoiceReference(Invoice *record) const
+{
+    record->id = m_query.value(0).toInt();
+    record->referenceNumber = m_query.value(1).toString();
+}
 
 int Query::maxInvoiceNumber() { return firstInteger(QStringLiteral("SELECT max(number) FROM invoice")); }
 

@@ -33,6 +33,8 @@ public:
     bool next() { return m_query.next(); }
     bool last() { return m_query.last(); }
     void finish() { m_query.finish(); }
+    /** Asks the database: a server may have gone. */
+    bool isConnected();
 
     // Lists and single records
     [[nodiscard]] bool fetchBankAccounts();
@@ -100,6 +102,10 @@ public:
     [[nodiscard]] bool deletePayments(int invoiceId);
     [[nodiscard]] bool deletePaymentsBetween(int first, int last);
     [[nodiscard]] bool deletePrintScript(int id);
+
+    /** Id and reference number of every invoice that has one, read with invoiceReference(). */
+    [[nodiscard]] bool fetchInvoiceReferences();
+    void invoiceReference(Invoice *record) const;
 
     int maxInvoiceNumber();           ///< 0 without invoices, -1 on failure
     int maxCustomerNumber();          ///< of all customers, removed ones too; 0 without customers, -1 on failure

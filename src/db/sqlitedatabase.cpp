@@ -35,7 +35,7 @@ bool SQLiteDatabase::open(QSettings *settings)
     if (!m_exists) {
         if (!isCreateIfNotExist())
             return true; // the caller looks at exists()
-        m_exists = createTables(QStringLiteral(":/sql/sqlite.sql"), settings->value(QStringLiteral("name")).toString());
+        m_exists = createTables(settings->value(QStringLiteral("name")).toString());
         if (!m_exists)
             return false;
     }
@@ -67,6 +67,19 @@ long long SQLiteDatabase::foreignChanges()
     const long long version = known ? m_dataVersion->value(0).toLongLong() : -1;
     m_dataVersion->finish();
     return version;
+}
+
+bool SQLiteDatabase::backupTo(const QString &filename)
+{
+    if (QFileInfo::exists(filename))
+        return fail(tr("Tiedosto on jo olemassa: %1").arg(filename));
+    QSqlQuery query(connection(false));
+    query.prepare(QStringLiteral("VACUUM INTO ?"));
+    query.bindValue(0, filename);
+    if (query.exec())
+        return true;
+    QFile::remove(filename);
+    return fail(tr("Tiedostoa %1 ei voi kirjoittaa: %2").arg(filename, query.lastError().text().trimmed()));
 }
 
 bool SQLiteDatabase::upgrade(const QString &filename)

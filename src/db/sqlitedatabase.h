@@ -18,6 +18,7 @@ public:
     bool driverAvailable() const override;
     bool beginWriting() override;
     long long foreignChanges() override;
+    bool backupTo(const QString &filename) override;
 
     /**
      * @return the name itself when no such file exists, else the first free name with "-1", "-2", … before the suffix
@@ -27,6 +28,7 @@ public:
 
 protected:
     bool isSQLite() const override { return true; }
+    QString creationScript() const override { return QStringLiteral(":/sql/sqlite.sql"); }
 
 private:
     bool upgrade(const QString &filename);

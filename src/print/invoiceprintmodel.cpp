@@ -137,5 +137,3 @@ bool InvoicePrintModel::customerHasVatNumber(Customer *customer) const
 {
     return Customer::isValidVatNumber(customer->vatNumber);
 }
-
-bool InvoicePrintModel::exportToCSV(const QString &, const QString &) { return false; }

@@ -1,5 +1,6 @@
 #include "printscriptmanager.h"
 
+#include "pdfoutput.h"
 #include "printprelude.h"
 #include "printscriptenvironment.h"
 
@@ -25,17 +26,26 @@ void PrintScriptManager::print(QPrinter *printer, PrintModel *model, int fromPag
 {
     if (!m_script.isRunnable())
         return;
+    m_lastError.clear();
     if (setPaperSize)
         printer->setPageSize(QPageSize(static_cast<QPageSize::PageSizeId>(m_paperSize)));
     printer->setPageOrientation(m_orientation == QPrinter::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     printer->setFullPage(true);
-    QPainter painter(printer);
+    PdfOutput output(printer);
+    QPainter painter;
+    if (!output.open() || !painter.begin(printer)) {
+        m_script.clearExceptions();
+        m_lastError = output.errorString().isEmpty() ? tr("Tiedostoon ei voi kirjoittaa") : output.errorString();
+        return;
+    }
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing | QPainter::SmoothPixmapTransform);
     {
         PrintScriptEnvironment environment(model, printer, &painter, fromPage, toPage);
         m_script.run(&environment);
     }
     painter.end();
+    if (!output.commit())
+        m_lastError = output.errorString();
     if (hasException())
         emit exceptionUncaught();
 }

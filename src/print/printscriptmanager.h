@@ -46,11 +46,15 @@ public:
 
     /**
      * Runs the script on a printer; pages outside the range are laid out but not painted. Without a loaded `print`
-     * function nothing is done, and no file is made.
+     * function nothing is done, and no file is made. Pages drawn before an exception stay in the document.
+     *
+     * A file is replaced only by a complete document, see lastError().
      * @param fromPage, toPage  inclusive, from 1
      * @param setPaperSize      whether paperSize() is set on the printer; orientation() always is
      */
     void print(QPrinter *printer, PrintModel *model, int fromPage, int toPage, bool setPaperSize);
+    /** Why the last print() left no document in the printer's file; empty when it did. */
+    QString lastError() const { return m_lastError; }
     /** Prints all pages of model(); nothing without a model. */
     Q_INVOKABLE void print(QPrinter *printer);
 
@@ -64,6 +68,7 @@ private:
     QPrinter::Orientation m_orientation = QPrinter::Portrait;
     QPagedPaintDevice::PageSize m_paperSize = QPagedPaintDevice::A4;
     PrintModel *m_model = nullptr;
+    QString m_lastError;
 };
 
 #endif

@@ -14,7 +14,11 @@ constexpr auto environmentOptions = QScriptEngine::ExcludeSuperClassContents | Q
 } // namespace
 
 // A resource in a static library is linked only when it is named; the macro does not work inside a namespace or class.
-static void initScriptsResource() { Q_INIT_RESOURCE(scripts); }
+static void initScriptResources()
+{
+    Q_INIT_RESOURCE(scripts);
+    Q_INIT_RESOURCE(listscripts);
+}
 
 ScriptRunner::ScriptRunner(const char *prelude, const char *entryPoint)
     : m_prelude(prelude), m_entryPointName(QString::fromLatin1(entryPoint)),
@@ -24,7 +28,7 @@ ScriptRunner::ScriptRunner(const char *prelude, const char *entryPoint)
 
 bool ScriptRunner::load(const QString &fileName)
 {
-    initScriptsResource();
+    initScriptResources();
     QFile file(fileName);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
         return false;
@@ -67,15 +71,21 @@ int ScriptRunner::callForNumber(const char *function, int defaultNumber)
 /** Only what runs inside evaluate() can be aborted: a QScriptValue::call() cannot. */
 QScriptValue ScriptRunner::evaluate(const QScriptProgram &program)
 {
-    m_engine->clearExceptions(); // else the error of one document would be told for the next
+    clearExceptions(); // else the error of one document would be told for the next
     QTimer limit;
-    limit.setSingleShot(true);
-    QObject::connect(&limit, &QTimer::timeout, [this] {
-        const QString message = tr("Tulostuspohjan suoritus kesti yli %1 sekuntia").arg(m_timeLimitMs / 1000);
+    QObject::connect(&limit, &QTimer::timeout, [this, &limit] {
+        limit.start(checkIntervalMs); // again, should a function in between not pass it on
+        const QString message = tr("Tulostuspohjan suoritus kesti yli %1 sekuntia").arg(m_timeLimitMs / 1000.0);
         m_engine->abortEvaluation(m_engine->currentContext()->throwError(message));
     });
     limit.start(m_timeLimitMs);
     return m_engine->evaluate(program);
+}
+
+void ScriptRunner::clearExceptions()
+{
+    if (m_engine)
+        m_engine->clearExceptions();
 }
 
 QString ScriptRunner::exception() const { return m_engine ? m_engine->uncaughtException().toString() : QString(); }

@@ -54,9 +54,10 @@ public:
     /** Null until a script is loaded. */
     QScriptEngine *engine() const { return m_engine.get(); }
 
+    void clearExceptions();
     bool hasException() const { return m_engine && m_engine->hasUncaughtException(); }
     QString exception() const;
-    int exceptionLineNumber() const; ///< -1 when there is none
+    int exceptionLineNumber() const; ///< -1 when there is none, 0 for a script that was stopped
     QStringList backTrace() const;
 
 private:

@@ -1,0 +1,41 @@
+// The payment journal: a line per payment with its invoice, and the sums of both.
+
+var TITLE = "Suorituspäiväkirja";
+var ENTRIES = "payments";
+var NO_ENTRIES = "Ei suorituksia";
+var ONE_ENTRY = "1 suoritus";
+var MANY_ENTRIES = "suoritusta";
+
+// name: of the flag that shows the column; total: the path of its sum, totalCaption: what the sum is called
+var COLUMNS = [
+    { name: "paymentDate", caption: "Maksupäivä", minimum: 16, path: "date", format: dates },
+    { name: "number", caption: "Lasku", minimum: 9, path: "invoice/number", format: numbers },
+    { name: "date", caption: "Päiväys", minimum: 16, path: "invoice/date", format: dates },
+    { name: "dueDate", caption: "Eräpäivä", minimum: 16, path: "invoice/dueDate", format: dates },
+    { name: "deliveryDate", caption: "Toimitettu", minimum: 16, path: "invoice/deliveryDate", format: dates },
+    { name: "customerNumber", caption: "As.nro", minimum: 9, path: "customer/number", format: numbers },
+    { name: "customerName", caption: "Asiakas", minimum: 25, path: "customer/name", format: texts },
+    { name: "bankAccount", caption: "Pankkitili", minimum: 18, path: "bankAccount/name", format: texts },
+    { name: "totalAmount", caption: "Laskusumma", minimum: 16, path: "invoice/totalAmount",
+      format: amounts, total: "totalAmount", totalCaption: "Laskusummat yhteensä" },
+    { name: "paymentAmount", caption: "Suoritus", minimum: 16, path: "amount",
+      format: amounts, total: "totalPaymentAmount", totalCaption: "Suoritukset yhteensä" }
+];
+
+// The sums of columns that are not shown get lines of their own.
+function closingLines(table) {
+    var lines = totalsLines(table);
+    function addSumLine(text) {
+        lines.push(function (y) {
+            setFont(FONT, table.size, "bold");
+            drawTextRight(table.left, y + ROW_TEXT_TOP * table.scale, table.right - table.left, 0, text);
+        });
+    }
+    for (var i = 0; i < COLUMNS.length; ++i) {
+        if (COLUMNS[i].total && !isShown(COLUMNS[i]))
+            addSumLine(COLUMNS[i].totalCaption + " " + formatCurrency(get(COLUMNS[i].total)));
+    }
+    return lines;
+}
+
+@LIST_TABLE@
