@@ -17,6 +17,8 @@
 #include <QHash>
 #include <QVector>
 
+#include <limits>
+
 namespace {
 
 struct State {
@@ -147,6 +149,8 @@ bool completeNewInvoice(CommandContext &context, State &state)
         const int highest = context.session.query()->maxInvoiceNumber();
         if (!context.session.query()->lastError().isEmpty())
             return context.session.failQuery();
+        if (highest == std::numeric_limits<int>::max())
+            return context.status.fail(ExitCode::badData, CommandContext::tr("Seuraavaa laskunumeroa ei ole"));
         invoice.number = highest + 1;
         updateReferenceNumber(context, &invoice, &state.customer);
     }
@@ -259,6 +263,18 @@ void findInvoices(CommandContext &context, const Search &search)
     context.response.endResponse();
 }
 
+/** A search that was given keys which restrict nothing (a negative number does not) is no order to remove everything.
+ */
+bool checkRestricts(CommandContext &context, const Search &search, bool hasKeys)
+{
+    QString sql;
+    QVariantList params;
+    const bool restricts = context.session.query()->buildInvoiceWhereClause(&search.criteria, sql, params, QString(),
+                                                                            QStringLiteral(" WHERE "));
+    return restricts || !hasKeys ||
+           context.status.fail(ExitCode::badData, CommandContext::tr("Hakuehdot eivät rajaa poistettavia laskuja"));
+}
+
 /** @return the number of invoices removed, -1 on failure */
 int removeInvoices(CommandContext &context, const Search &search)
 {
@@ -302,12 +318,15 @@ void parseFindInvoicesCommand(CommandContext &context, QStringList &args, FindCo
     if (!context.session.ensureOpen())
         return;
     Search search;
-    if (!parseSearch(context, parseParameters(args), search))
+    const ParameterList words = parseParameters(args);
+    if (!parseSearch(context, words, search))
         return;
     if (mode == FindCommandMode::find) {
         findInvoices(context, search);
         return;
     }
+    if (!checkRestricts(context, search, !words.isEmpty()))
+        return;
     const int count = removeInvoices(context, search);
     if (count < 0)
         return;

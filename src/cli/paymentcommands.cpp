@@ -139,6 +139,20 @@ void findPayments(CommandContext &context, const Search &search)
     context.response.endResponse();
 }
 
+/** A search that was given keys which restrict nothing (a negative number does not) is no order to remove everything.
+ */
+bool checkRestricts(CommandContext &context, const Search &search, bool hasKeys)
+{
+    QString sql;
+    QVariantList params;
+    const Query *query = context.session.query();
+    const QString keyword = QStringLiteral(" WHERE ");
+    const bool restricts = query->buildPaymentWhereClause(&search.payments, nullptr, sql, params, QString(), keyword) ||
+                           query->buildInvoiceWhereClause(&search.invoices, sql, params, QString(), keyword);
+    return restricts || !hasKeys ||
+           context.status.fail(ExitCode::badData, CommandContext::tr("Hakuehdot eivät rajaa poistettavia suorituksia"));
+}
+
 /** The balances of the invoices stay as they are. @return the number of payments removed, -1 on failure */
 int removePayments(CommandContext &context, const Search &search)
 {
@@ -182,12 +196,15 @@ void parseFindPaymentsCommand(CommandContext &context, QStringList &args, FindCo
     if (!context.session.ensureOpen())
         return;
     Search search;
-    if (!parseSearch(context, parseParameters(args), search))
+    const ParameterList words = parseParameters(args);
+    if (!parseSearch(context, words, search))
         return;
     if (mode == FindCommandMode::find) {
         findPayments(context, search);
         return;
     }
+    if (!checkRestricts(context, search, !words.isEmpty()))
+        return;
     const int count = removePayments(context, search);
     if (count < 0)
         return;

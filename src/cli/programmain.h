@@ -10,9 +10,12 @@
 template <class Interface> int programMain(int argc, char *argv[])
 {
     ProgramStart::prepare();
-    const QApplication app(argc, argv);
+    // The library takes words such as -style off the line that it is given; they are ours to answer.
+    int programNameOnly = 1;
+    const QApplication app(programNameOnly, argv);
     ProgramStart::nameApplication();
     Interface commands(qApp);
+    commands.setArguments(ProgramStart::arguments(argc, argv));
     QTimer::singleShot(0, &commands, &Interface::start);
     return QApplication::exec();
 }

@@ -39,10 +39,21 @@ template <class Record> QString updateStatement()
 
 Query::Query(const QSqlQuery &statement, QObject *parent) : QObject(parent), m_query(statement) {}
 
-QString Query::lastError() const { return m_query.lastError().text().trimmed(); }
+QString Query::lastError() const
+{
+    return m_refusal.isEmpty() ? m_query.lastError().text().trimmed() : m_refusal;
+}
+
+bool Query::hasReadError() const { return m_query.lastError().isValid(); }
 
 bool Query::execute(const QString &sql, const QVariantList &values)
 {
+    m_refusal.clear();
+    for (const QVariant &value : values) {
+        m_refusal = refusal(value);
+        if (!m_refusal.isEmpty())
+            return false;
+    }
     m_prepareFailed = !m_query.prepare(sql);
     if (m_prepareFailed)
         return false;

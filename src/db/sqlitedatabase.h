@@ -17,6 +17,7 @@ public:
     void close() override;
     bool driverAvailable() const override;
     bool beginWriting() override;
+    bool beginReading() override { return transaction(); }
     long long foreignChanges() override;
     bool backupTo(const QString &filename) override;
 
@@ -32,6 +33,7 @@ protected:
 
 private:
     bool upgrade(const QString &filename);
+    int storedVersion();
     void backup(const QString &filename) const;
 
     std::unique_ptr<QSqlQuery> m_dataVersion; ///< prepared once, run before every use of a cached list

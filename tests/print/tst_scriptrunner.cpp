@@ -1,6 +1,7 @@
 #include "scriptrunner.h"
 
 #include <QElapsedTimer>
+#include <QTemporaryFile>
 #include <QtTest>
 
 /** What scripts of the tests call as `env`. */
@@ -176,7 +177,11 @@ void ScriptRunnerTest::files()
     QVERIFY(!runner.load("/nonexistent/own.qs"));
     QVERIFY(!runner.load(":/scripts/nosuch.qs"));
     QVERIFY(!runner.isRunnable());
-    QVERIFY(runner.load(":/scripts/invoice.qs"));
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write("function print() {}\n");
+    file.close();
+    QVERIFY(runner.load(file.fileName()));
     QVERIFY2(!runner.hasException(), qPrintable(runner.exception()));
     QVERIFY(runner.isRunnable());
 }
