@@ -180,18 +180,18 @@ function cutTexts(columns, width) {
 function placeColumns(columns, width) {
     if (neededWidth(columns, Infinity) > width)
         cutTexts(columns, width);
-    var textCount = 0;
+    var textWidths = 0;
     for (var i = 0; i < columns.length; ++i)
-        textCount += columns[i].isText ? 1 : 0;
+        textWidths += columns[i].isText ? columns[i].width : 0;
     var gapCount = Math.max(columns.length - 1, 1);
     var spare = Math.max(width - neededWidth(columns, Infinity), 0);
     var widening = spare / gapCount;
-    if (textCount > 0)
+    if (textWidths > 0)
         widening = Math.min(widening, WIDEST_COLUMN_GAP - COLUMN_GAP);
     var x = 0;
     for (var k = 0; k < columns.length; ++k) {
         if (columns[k].isText)
-            columns[k].width += (spare - widening * gapCount) / textCount;
+            columns[k].width *= 1 + (spare - widening * gapCount) / textWidths;
         columns[k].x = x;
         x += columns[k].width + COLUMN_GAP + widening;
     }
