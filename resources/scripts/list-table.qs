@@ -50,9 +50,7 @@ function convertEach(values, convert) {
 }
 
 function texts(values) {
-    return convertEach(values, function (value) {
-        return value == undefined ? "" : String(value).replace(/\s+/g, " ");
-    });
+    return convertEach(values, function (value) { return value == undefined ? "" : String(value); });
 }
 
 function numbers(values) { // -1 stands for none
@@ -64,7 +62,7 @@ function amounts(values) { return convertEach(values, formatCurrency); }
 function dates(values) {
     var known = {};
     return convertEach(values, function (value) {
-        if (value == undefined || isNaN(value.getTime()))
+        if (value == undefined)
             return "";
         var time = value.getTime();
         if (!(time in known))
@@ -280,6 +278,7 @@ function totalsLines(table) {
         drawText(table.left, y + ROW_TEXT_TOP * table.scale, table.right - table.left, 0, label);
     }
     function drawSums(y) {
+        setFont(FONT, table.size, "bold");
         for (var i = 0; i < table.columns.length; ++i)
             drawCell(table, table.columns[i], y, table.columns[i].sum);
         drawLine(table.left, y + table.rowHeight, table.right, y + table.rowHeight);
@@ -336,8 +335,8 @@ function print() {
     setPen(INK, RULE_WIDTH);
     var table = layOutTable();
     var closing = closingLines(table);
-    var capacity = Math.floor((table.bottom - table.top) / table.rowHeight) - 1;
-    var pages = paginate(table.rowCount, closing.length, capacity);
+    var capacity = Math.floor((table.bottom - table.top) / table.rowHeight) - 1; // lines below the captions
+    var pages = paginate(table.rowCount, closing.length, Math.max(capacity, ROWS_WITH_TOTALS + 1));
     for (var i = 0; i < pages.length; ++i) {
         if (i > 0)
             newPage();
