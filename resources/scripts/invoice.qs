@@ -31,13 +31,13 @@ var DATE_FORMAT = "d.M.yyyy";
 // Sender and receiver
 var ADDRESS_WIDTH = 88;
 var ADDRESS_LINE = 5.2;
+var ADDRESS_MOST_LINES = 6; // of the sender, of the receiver twice as many
 var LOGO_WIDTH = 88;
 var LOGO_MOST_HEIGHT = 60;
 var LOGO_GAP = 2;
 var SENDER_LINE = 4.4;
 var RECEIVER_TOP = 48; // the window of the envelope
 var RECEIVER_GAP = 6;
-var RECEIVER_MOST_LINES = 12;
 
 // The header box: two columns of cells, each with a caption above its value
 var COLUMN_1 = 115;
@@ -70,6 +70,8 @@ var LEAST_ROWS_ON_LAST_PAGE = 2;
 var CLOSING_GAP = 4;
 var NOTICE_LINE = 4.5;
 var NOTICE_WIDTH = 88;
+var NOTICE_MOST_LINES = 10; // beside the totals
+var NOTICE_ROWS_ROOM = 15; // what the longest notice leaves for rows
 var VAT_LINE = 4.5;
 var VAT_RULE_GAP = 1;
 var VAT_RIGHT_EDGES = [34, 60, 82, 108];
@@ -81,10 +83,12 @@ var FRAME_TEXT_TOP = 1.4;
 // The footer
 var FOOTER_LINE = 3.5;
 var FOOTER_PADDING = 1.5;
+var FOOTER_MOST_LINES = 12;
 var FOOTER_COLUMNS = [20, 67, 114];
 var FOOTER_COLUMN_GAP = 3;
 var FOOTER_IBAN = 136;
 var FOOTER_BIC = 174;
+var ACCOUNT_GAP = 1; // between a bank, its IBAN and its BIC
 
 // The bank transfer form: its rows are multiples of one unit, 48 units make the form
 var FORM_HEIGHT = 95;
@@ -93,6 +97,7 @@ var FORM_UNIT = FORM_HEIGHT / 48;
 var FORM_ACCOUNTS_END = 8;
 var FORM_PAYEE_END = 15;
 var FORM_REFERENCE_START = 27;
+var FORM_SIGNATURE_START = 29;
 var FORM_PAYER_END = 31;
 var FORM_AMOUNT_END = 35;
 var FORM_GAP = 3; // between footer and form
@@ -111,12 +116,13 @@ var FORM_CAPTION_RIGHT = 19.2;
 var FORM_CONDITIONS_LINE = 2.4;
 var FORM_HEADING_LEFT = 3.5;
 var FORM_LINE = 4.1;
+var FORM_LEAST_LINE = 3.2;
 var FORM_ACCOUNTS_TOP = 3.5;
 var FORM_MOST_ACCOUNTS = 4;
 var FORM_MESSAGE_TOP = 2;
-var RF_MOST_DIGITS = 14;
 var FORM_IBAN = 45;
 var FORM_BIC = 86;
+var RF_MOST_DIGITS = 14;
 var FORM_VALUE_TOP = 1.9;
 var FORM_SIGNATURE_LINE = 1; // above the row's end
 var FORM_THIN_LINE = 0.13;
@@ -210,7 +216,7 @@ var TEXTS = {
             customerNumber: "Kundnummer", dueDate: "Förfallodag", referenceNumber: "Referensnummer",
             paymentTerms: "Betalningsvillkor", interestOnArrears: "Dröjsmålsränta", buyerRef: "Er referens",
             sellerRef: "Vår referens", deliveryDate: "Leveransdatum", delivery: "Leveransvillkor",
-            periodForComplaints: "Reklamationstid", customerBusinessId: "Kundens FO-nummer",
+            periodForComplaints: "Anmärkningstid", customerBusinessId: "Kundens FO-nummer",
             customerVatNumber: "Kundens momsnummer"
         },
         columns: {
@@ -229,10 +235,10 @@ var TEXTS = {
         titles: ["INVOICE", "INTEREST INVOICE", "CREDIT NOTE", "PAYMENT REMINDER", "RECEIPT", "DELIVERY NOTE"],
         page: "page",
         header: {
-            number: "Number", invoiceNumber: "Invoice number", date: "Date", reminderDate: "Date of reminder",
+            number: "Number", invoiceNumber: "Invoice number", date: "Date", reminderDate: "Reminder date",
             customerNumber: "Customer number", dueDate: "Due date", referenceNumber: "Reference number",
             paymentTerms: "Terms of payment", interestOnArrears: "Interest on arrears", buyerRef: "Your reference",
-            sellerRef: "Our reference", deliveryDate: "Date of delivery", delivery: "Terms of delivery",
+            sellerRef: "Our reference", deliveryDate: "Delivery date", delivery: "Terms of delivery",
             periodForComplaints: "Period for complaints", customerBusinessId: "Customer's business ID",
             customerVatNumber: "Customer's VAT number"
         },
@@ -241,7 +247,7 @@ var TEXTS = {
             amountVatExcluded: "Price excl. VAT", amount: "Price incl. VAT", discountPercent: "Disc. %",
             vatRate: "VAT %", totalAmountVatExcluded: "Excl. VAT", totalVatAmount: "VAT", totalAmount: "Incl. VAT"
         },
-        totals: { vatExcluded: "Excluding VAT", vat: "VAT", total: "Total EUR", paid: "Paid", open: "Open EUR" },
+        totals: { vatExcluded: "Excluding VAT", vat: "VAT", total: "Total EUR", paid: "Paid", open: "Outstanding EUR" },
         footer: { phone: "Tel.", businessId: "Business ID", vatNumber: "VAT number" },
         useReference: "Please quote the reference number when paying.",
         nothingToPay: "Nothing to pay.",
@@ -277,8 +283,8 @@ function printInvoice(invoice, seller)
 {
     var letterHead = layOutLetterHead(invoice, seller);
     var table = layOutTable(invoice);
-    var closing = layOutClosing(invoice);
     var footer = layOutFooter(invoice, seller);
+    var closing = layOutClosing(invoice, footer.height);
     var pages = paginate(table, letterHead.bottom, closing.height, footer.height, invoice.hasForm);
     for (var i = 0; i < pages.length; i++) {
         var last = i == pages.length - 1;
@@ -301,11 +307,11 @@ function printInvoice(invoice, seller)
 
 // ---------------------------------------------------------------------------------------------------------- Values
 
-// A missing value is an empty text.
+// A missing value is an empty text; a tab would leave its column.
 function textAt(path)
 {
     var value = get(path);
-    return value === undefined || value === null ? "" : String(value).replace(/\s+$/, "");
+    return value === undefined || value === null ? "" : String(value).replace(/\s+$/, "").replace(/[\t\r]+/g, " ");
 }
 
 function numberAt(path)
@@ -390,6 +396,7 @@ function textsOf(language)
 function readInvoice(path, seller)
 {
     var kind = numberAt(path + "type");
+    // A delivery note tells what was delivered: it has neither prices nor sums nor a form.
     var invoice = { path: path, kind: kind, hasForm: kind != DELIVERY_NOTE, itemOptions: seller.itemOptions };
     invoice.texts = textsOf(textAt(path + "customer/language") || seller.language);
     invoice.title = invoice.texts.titles[kind] || invoice.texts.titles[0];
@@ -554,11 +561,13 @@ function layOutLetterHead(invoice, seller)
     head.name = wrap(seller.name, ADDRESS_WIDTH, ADDRESS_LINE);
     font(NORMAL_SIZE);
     head.sender = wrap(head.sender, ADDRESS_WIDTH, SENDER_LINE);
+    shortenBlock(head.name, ADDRESS_MOST_LINES * ADDRESS_LINE);
+    shortenBlock(head.sender, ADDRESS_MOST_LINES * SENDER_LINE);
     head.receiverTop = Math.max(RECEIVER_TOP, head.senderTop + head.name.height + head.sender.height + RECEIVER_GAP);
     head.header = layOutHeader(headerCells(invoice));
     font(ADDRESS_SIZE);
     head.receiver = wrap(invoice.address, ADDRESS_WIDTH, ADDRESS_LINE);
-    shortenBlock(head.receiver, RECEIVER_MOST_LINES * ADDRESS_LINE);
+    shortenBlock(head.receiver, 2 * ADDRESS_MOST_LINES * ADDRESS_LINE);
     head.bottom = Math.max(head.header.bottom, head.receiverTop + head.receiver.height) + BODY_GAP;
     return head;
 }
@@ -700,7 +709,8 @@ function drawContinuation(invoice, seller)
     font(NORMAL_SIZE);
     drawFitted(LEFT_MARGIN, TOP_MARGIN, ADDRESS_WIDTH, seller.name);
     font(SMALL_SIZE);
-    drawText(COLUMN_1, PAGE_NUMBER_TOP, HEADER_WIDTH, 0, prefixed(invoice.texts.header[invoice.numberKey], invoice.number));
+    drawText(COLUMN_1, PAGE_NUMBER_TOP, HEADER_WIDTH, 0,
+             prefixed(invoice.texts.header[invoice.numberKey], invoice.number));
 }
 
 // ------------------------------------------------------------------------------------------------------------- Rows
@@ -740,9 +750,9 @@ function readColumn(definition, path, count)
     for (var row = 0; row < count; row++) {
         var value = column.numeric ? definition.format(get(path + row + "/" + definition.key))
                                    : textAt(path + row + "/" + definition.key);
-        var comma = column.numeric ? value.indexOf(",") : -1;
-        var whole = comma < 0 ? value.length : comma;
-        decimals.push(value.length - whole - (comma < 0 ? 0 : 1));
+        var point = column.numeric ? value.indexOf(",") : -1;
+        var whole = point < 0 ? value.length : point;
+        decimals.push(value.length - whole - (point < 0 ? 0 : 1));
         column.cells.push(value);
         column.longest = Math.max(column.longest, whole);
         mostDecimals = Math.max(mostDecimals, decimals[row]);
@@ -848,28 +858,25 @@ function drawRow(table, row, y)
 
 function footerBottom(aboveForm) { return aboveForm ? FORM_TOP - FORM_GAP : PAGE_HEIGHT - BOTTOM_MARGIN; }
 
+// The room for rows between what stands above and below them, on a page without the closing part.
+function rowsRoom(top, footerHeight, aboveForm)
+{
+    return footerBottom(aboveForm) - footerHeight - BODY_GAP - TABLE_END_GAP - TABLE_HEAD_HEIGHT - top;
+}
+
 // Shares the rows out over the pages. The closing part, and the form, stand on the last page with some of the rows.
 function paginate(table, firstTop, closingHeight, footerHeight, hasForm)
 {
-    var around = TABLE_HEAD_HEIGHT + TABLE_END_GAP + footerHeight + BODY_GAP;
     var room = function (page, last) {
-        return footerBottom(last && hasForm) - (page == 0 ? firstTop : CONTINUED_TOP) - around
+        return rowsRoom(page == 0 ? firstTop : CONTINUED_TOP, footerHeight, last && hasForm)
             - (last ? CLOSING_GAP + closingHeight : 0);
     };
     var left = 0;
-    for (var i = 0; i < table.count; i++) {
-        var height = Math.min(table.rows[i].height, room(0, false)); // a row of more than a page is cut
-        shortenBlock(table.rows[i].text, height - ROW_GAP - (table.rows[i].height - table.rows[i].text.height - ROW_GAP));
-        table.rows[i].height = height;
-        left += height;
-    }
+    for (var i = 0; i < table.count; i++)
+        left += limitRow(table, i, room(0, false));
     var pages = [];
     var first = 0;
-    while (pages.length == 0 || first < table.count || left >= 0) {
-        if (left <= room(pages.length, true) || first == table.count && pages.length > 0) {
-            pages.push({ first: first, end: table.count });
-            break;
-        }
+    while (left > room(pages.length, true) && (first < table.count || pages.length == 0)) {
         var end = filledEnd(table, first, room(pages.length, false));
         if (end == table.count)
             end = Math.max(Math.min(first + 1, end), end - LEAST_ROWS_ON_LAST_PAGE);
@@ -878,7 +885,24 @@ function paginate(table, firstTop, closingHeight, footerHeight, hasForm)
         pages.push({ first: first, end: end });
         first = end;
     }
+    pages.push({ first: first, end: table.count });
     return pages;
+}
+
+// Cuts a row that would not fit on a page, the free text first. Returns the row's height.
+function limitRow(table, row, most)
+{
+    var limited = table.rows[row];
+    if (limited.height > most) {
+        var lines = limited.height - limited.text.height - ROW_GAP;
+        for (var i = 0; i < table.columns.length; i++) {
+            if (!table.columns[i].numeric)
+                shortenBlock(table.columns[i].blocks[row], most - ROW_GAP);
+        }
+        shortenBlock(limited.text, most - ROW_GAP - lines);
+        limited.height = Math.min(lines, most - ROW_GAP) + limited.text.height + ROW_GAP;
+    }
+    return limited.height;
 }
 
 function filledEnd(table, first, room)
@@ -891,15 +915,24 @@ function filledEnd(table, first, room)
 
 // -------------------------------------------------------------------------------- Notice, VAT breakdown and totals
 
-function layOutClosing(invoice)
+// The notice stands beside the totals, a long one below them in the whole width.
+function layOutClosing(invoice, footerHeight)
 {
-    font(NORMAL_SIZE);
-    var closing = { notice: wrap(invoice.notice, invoice.hasForm ? NOTICE_WIDTH : CONTENT_WIDTH, NOTICE_LINE) };
-    closing.totals = invoice.hasForm ? totalLines(invoice) : [];
-    closing.vatTop = closing.notice.height + (closing.notice.height > 0 ? CLOSING_GAP : 0);
+    var closing = { totals: invoice.hasForm ? totalLines(invoice) : [], noticeTop: 0, vatTop: 0 };
     closing.hasVat = invoice.hasForm && invoice.vat.length > 1;
-    closing.height = Math.max(closing.hasVat ? closing.vatTop + (invoice.vat.length + 1) * VAT_LINE + VAT_RULE_GAP
-                                             : closing.notice.height, totalsHeight(closing.totals));
+    var totalsHeight = closing.totals.length == 0 ? 0 : (closing.totals.length - 1) * TOTAL_LINE + FRAME_LINE;
+    var vatHeight = closing.hasVat ? (invoice.vat.length + 1) * VAT_LINE + VAT_RULE_GAP : 0;
+    font(NORMAL_SIZE);
+    closing.notice = wrap(invoice.notice, invoice.hasForm ? NOTICE_WIDTH : CONTENT_WIDTH, NOTICE_LINE);
+    if (closing.notice.lines > NOTICE_MOST_LINES && invoice.hasForm) {
+        closing.notice = wrap(invoice.notice, CONTENT_WIDTH, NOTICE_LINE);
+        closing.noticeTop = Math.max(totalsHeight, vatHeight) + CLOSING_GAP;
+    }
+    shortenBlock(closing.notice, rowsRoom(CONTINUED_TOP, footerHeight, invoice.hasForm) - CLOSING_GAP
+                 - closing.noticeTop - (closing.noticeTop > 0 ? 0 : vatHeight + CLOSING_GAP) - NOTICE_ROWS_ROOM);
+    if (closing.noticeTop == 0 && closing.notice.height > 0)
+        closing.vatTop = closing.notice.height + CLOSING_GAP;
+    closing.height = Math.max(closing.noticeTop + closing.notice.height, closing.vatTop + vatHeight, totalsHeight);
     return closing;
 }
 
@@ -920,18 +953,10 @@ function totalLines(invoice)
     return lines;
 }
 
-function totalsHeight(lines)
-{
-    var height = 0;
-    for (var i = 0; i < lines.length; i++)
-        height += lines[i].framed ? FRAME_LINE : TOTAL_LINE;
-    return height;
-}
-
 function drawClosing(invoice, closing, top)
 {
     font(NORMAL_SIZE);
-    drawBlock(LEFT_MARGIN, top, closing.notice);
+    drawBlock(LEFT_MARGIN, top + closing.noticeTop, closing.notice);
     if (closing.hasVat)
         drawVat(invoice, top + closing.vatTop);
     var y = top;
@@ -958,7 +983,8 @@ function drawVat(invoice, top)
 {
     var captions = invoice.texts.columns;
     font(SMALL_SIZE);
-    drawVatLine([captions.vatRate, captions.totalAmountVatExcluded, captions.totalVatAmount, captions.totalAmount], top);
+    drawVatLine([captions.vatRate, captions.totalAmountVatExcluded, captions.totalVatAmount, captions.totalAmount],
+                top);
     var y = top + VAT_LINE;
     drawLine(LEFT_MARGIN, y, VAT_RIGHT_EDGES[VAT_RIGHT_EDGES.length - 1], y);
     y += VAT_RULE_GAP;
@@ -978,7 +1004,7 @@ function drawVatLine(cells, y)
 function layOutFooter(invoice, seller)
 {
     var captions = invoice.texts.footer;
-    var footer = { accounts: seller.accounts, texts: [] };
+    var footer = { accounts: seller.accounts.slice(0, FOOTER_MOST_LINES), texts: [] };
     footer.columns = [
         filled([seller.name, seller.streetName, seller.town, prefixed(captions.businessId, seller.businessId)]),
         filled([prefixed(captions.phone, seller.phoneNumber), seller.emailAddress, seller.webAddressShort,
@@ -991,6 +1017,7 @@ function layOutFooter(invoice, seller)
     var textHeight = 0;
     for (var i = 0; i < seller.footerTexts.length; i++) {
         footer.texts.push(wrap(seller.footerTexts[i], footer.textWidth - FOOTER_COLUMN_GAP, FOOTER_LINE));
+        shortenBlock(footer.texts[i], FOOTER_MOST_LINES * FOOTER_LINE);
         textHeight = Math.max(textHeight, footer.texts[i].height);
     }
     footer.height = footer.textTop + (textHeight > 0 ? FOOTER_PADDING + textHeight : 0);
@@ -1012,26 +1039,31 @@ function drawFooter(footer, bottom)
     var top = bottom - footer.height;
     drawLine(LEFT_MARGIN, top, RIGHT_EDGE, top);
     font(SMALL_SIZE);
+    var y = top + FOOTER_PADDING;
     for (var column = 0; column < footer.columns.length; column++) {
-        var width = FOOTER_COLUMNS[column + 1] - FOOTER_COLUMNS[column] - FOOTER_COLUMN_GAP;
-        for (var i = 0; i < footer.columns[column].length; i++)
-            drawFitted(FOOTER_COLUMNS[column], top + FOOTER_PADDING + i * FOOTER_LINE, width, footer.columns[column][i]);
+        var x = FOOTER_COLUMNS[column];
+        var lines = footer.columns[column];
+        for (var i = 0; i < lines.length; i++)
+            drawFitted(x, y + i * FOOTER_LINE, FOOTER_COLUMNS[column + 1] - x - FOOTER_COLUMN_GAP, lines[i]);
     }
     for (var j = 0; j < footer.accounts.length; j++)
-        drawAccount(footer.accounts[j], top + FOOTER_PADDING + j * FOOTER_LINE, FOOTER_COLUMNS[2], FOOTER_IBAN,
-                    FOOTER_BIC, RIGHT_EDGE);
+        drawAccount(footer.accounts[j], y + j * FOOTER_LINE, FOOTER_COLUMNS[2], FOOTER_IBAN, FOOTER_BIC, RIGHT_EDGE);
     for (var k = 0; k < footer.texts.length; k++)
         drawBlock(LEFT_MARGIN + k * footer.textWidth, top + footer.textTop + FOOTER_PADDING, footer.texts[k]);
 }
 
-// Bank, IBAN and BIC on one line. A foreign IBAN may need the place of the bank's name: it must never be cut.
+// Bank, IBAN and BIC on one line. A long IBAN needs the place of the bank's name, or smaller letters: it is never cut.
 function drawAccount(account, y, left, ibanX, bicX, right)
 {
-    if (fits(account.iban, bicX - ibanX)) {
-        drawFitted(left, y, ibanX - left - 1, account.name);
+    if (fits(account.iban, bicX - ibanX - ACCOUNT_GAP)) {
+        drawFitted(left, y, ibanX - left - ACCOUNT_GAP, account.name);
         drawText(ibanX, y, bicX - ibanX, 0, account.iban);
     } else {
+        var size = fontSize;
+        if (!fits(account.iban, bicX - left - ACCOUNT_GAP))
+            font(SMALL_SIZE);
         drawText(left, y, bicX - left, 0, account.iban);
+        font(size);
     }
     drawFitted(bicX, y, right - bicX, account.bic);
 }
@@ -1118,14 +1150,17 @@ function drawFormParties(invoice, seller)
     for (var i = 0; i < count; i++)
         drawAccount(seller.accounts[i], FORM_TOP + FORM_ACCOUNTS_TOP + i * line, x, FORM_IBAN, FORM_BIC, FORM_COLUMN_2);
     drawParty(joined([seller.name, seller.streetName, seller.town], "\n"), x, width, FORM_ACCOUNTS_END, FORM_PAYEE_END);
-    drawParty(invoice.address, x, width, FORM_PAYEE_END, FORM_PAYER_END);
+    drawParty(invoice.address, x, width, FORM_PAYEE_END, FORM_SIGNATURE_START);
 }
 
-// A name and address in the rows of the form between two heights, given in units.
+// A name and address in the rows of the form between two heights, given in units; many lines stand closer.
 function drawParty(address, x, width, start, end)
 {
+    var room = (end - start) * FORM_UNIT - FORM_CAPTION_TOP;
     var block = wrap(address, width, FORM_LINE);
-    shortenBlock(block, (end - start) * FORM_UNIT - FORM_CAPTION_TOP);
+    if (block.height > room)
+        block.pitch = Math.max(FORM_LEAST_LINE, room / block.lines);
+    shortenBlock(block, room);
     drawBlock(x, formY(start) + FORM_CAPTION_TOP, block);
 }
 

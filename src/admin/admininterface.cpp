@@ -1,6 +1,7 @@
 #include "admininterface.h"
 
 #include "databasecommands.h"
+#include "importcommands.h"
 #include "maintenancecommands.h"
 #include "printscriptcommands.h"
 #include "settingscommands.h"
@@ -23,6 +24,7 @@ constexpr Command commands[] = {
     {"--export-print-script", "export-print-script", call<parseExportPrintScriptCommand>},
     {"--remove-print-scripts", "remove-print-scripts", call<parseRemovePrintScriptsCommand>},
     {"--select-invoice-script", "select-invoice-script", call<parseSelectInvoiceScriptCommand>},
+    {"--import-payments", "import-payments", call<parseImportPaymentsCommand>},
     {"--check-database", "check-database", call<parseCheckDatabaseCommand>},
     {"--optimize-database", "optimize-database", call<parseOptimizeDatabaseCommand>},
     {"--backup-database", "backup-database", call<parseBackupDatabaseCommand>},

@@ -228,6 +228,18 @@ bool Query::deletePaymentsBetween(int first, int last)
 
 bool Query::deletePrintScript(int id) { return execute(QStringLiteral("DELETE FROM print_script WHERE id = ?"), {id}); }
 
+bool Query::fetchInvoiceReferences()
+{
+    return execute(
+        QStringLiteral("SELECT id, reference_number FROM invoice WHERE reference_number <> '' ORDER BY number, id"));
+}
+
+void Query::invoiceReference(Invoice *record) const
+{
+    record->id = m_query.value(0).toInt();
+    record->referenceNumber = m_query.value(1).toString();
+}
+
 int Query::maxInvoiceNumber() { return firstInteger(QStringLiteral("SELECT max(number) FROM invoice")); }
 
 int Query::maxCustomerNumber() { return firstInteger(QStringLiteral("SELECT max(number) FROM customer")); }

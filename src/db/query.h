@@ -103,6 +103,10 @@ public:
     [[nodiscard]] bool deletePaymentsBetween(int first, int last);
     [[nodiscard]] bool deletePrintScript(int id);
 
+    /** Id and reference number of every invoice that has one, read with invoiceReference(). */
+    [[nodiscard]] bool fetchInvoiceReferences();
+    void invoiceReference(Invoice *record) const;
+
     int maxInvoiceNumber();           ///< 0 without invoices, -1 on failure
     int maxCustomerNumber();          ///< of all customers, removed ones too; 0 without customers, -1 on failure
     int nextRowNumber(int invoiceId); ///< one past the invoice's last row, 0 without rows, -1 on failure

@@ -7,6 +7,7 @@
 #include "query.h"
 #include "registry.h"
 #include "settings.h"
+#include "xmlscriptmanager.h"
 
 #include <memory>
 
@@ -46,6 +47,15 @@ bool ScriptLoader::loadCustomerListScript(PrintScriptManager *manager) const
 bool ScriptLoader::loadProductListScript(PrintScriptManager *manager) const
 {
     return manager->load(QStringLiteral(":/scripts/product-list.qs"));
+}
+
+bool ScriptLoader::loadFinvoiceScript(XmlScriptManager *manager) const
+{
+    const int index = m_registry->printScriptIndexByType(QStringLiteral("finvoice"));
+    PrintScript script;
+    if (index >= 0 && fetchPrintScript(m_registry->printScript(index)->id, &script))
+        return manager->loadFromSource(script.sourceCode, QStringLiteral("finvoice.qs"));
+    return manager->load(QStringLiteral(":/scripts/finvoice.qs"));
 }
 
 bool ScriptLoader::load(PrintScriptManager *manager, const QString &fileName) const { return manager->load(fileName); }

@@ -6,6 +6,7 @@
 class PrintScript;
 class PrintScriptManager;
 class Registry;
+class XmlScriptManager;
 
 /**
  * Decides which script a host gets: one that is stored in the database, or a built-in one. A non-negative id names a
@@ -26,6 +27,9 @@ public:
     [[nodiscard]] bool loadPaymentListScript(PrintScriptManager *manager) const;
     [[nodiscard]] bool loadCustomerListScript(PrintScriptManager *manager) const;
     [[nodiscard]] bool loadProductListScript(PrintScriptManager *manager) const;
+
+    /** Loads the first stored script of type "finvoice", else the built-in one. */
+    [[nodiscard]] bool loadFinvoiceScript(XmlScriptManager *manager) const;
 
     /** Loads a file given by the user. */
     [[nodiscard]] bool load(PrintScriptManager *manager, const QString &fileName) const;

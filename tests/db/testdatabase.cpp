@@ -48,7 +48,9 @@ TestDatabase::~TestDatabase()
     close();
     if (!m_isSQLite) {
         QSqlDatabase server = connection(QStringLiteral("postgres"));
-        QSqlQuery(server).exec(QStringLiteral("DROP DATABASE IF EXISTS %1 WITH (FORCE)").arg(m_name));
+        QSqlQuery query(server);
+        query.exec(QStringLiteral("SET client_min_messages = warning")); // some tests never create theirs
+        query.exec(QStringLiteral("DROP DATABASE IF EXISTS %1 WITH (FORCE)").arg(m_name));
     }
     QSqlDatabase::removeDatabase(m_name + QLatin1String("/postgres"));
     QSqlDatabase::removeDatabase(m_name + QLatin1Char('/') + m_name);
@@ -126,6 +128,14 @@ void TestDatabase::clear()
          {"settings", "customer", "product", "bank_account", "invoice", "invoice_item", "payment", "print_script"})
         run((m_isSQLite ? QStringLiteral("DELETE FROM %1") : QStringLiteral("TRUNCATE %1 RESTART IDENTITY"))
                 .arg(QLatin1String(table)));
+}
+
+TestDatabase &TestDatabases::opened(const QString &backend)
+{
+    const auto [it, isNew] = m_databases.try_emplace(backend, backend);
+    if (isNew && !it->second.open())
+        qFatal("%s", qPrintable(it->second.database()->lastError()));
+    return it->second;
 }
 
 void addBackends()

@@ -5,6 +5,7 @@
 #include <QSqlDatabase>
 #include <QTemporaryDir>
 
+#include <map>
 #include <memory>
 
 class Database;
@@ -51,6 +52,15 @@ private:
     QSettings m_settings;
     QString m_name; ///< of the file or of the server's database; of the connection beside
     std::unique_ptr<Database> m_database;
+};
+
+/** The databases of a test class, one for each backend, created when first asked for. */
+class TestDatabases {
+public:
+    TestDatabase &opened(const QString &backend);
+
+private:
+    std::map<QString, TestDatabase> m_databases;
 };
 
 /** Global data rows: every test runs once for each backend. */

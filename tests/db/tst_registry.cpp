@@ -29,7 +29,8 @@ private:
     /** The lists as the fetches would have them, beside those that the stores made. */
     void compareWithDatabase(Query *query);
 
-    std::unique_ptr<TestDatabase> m_database;
+    TestDatabases m_databases;
+    TestDatabase *m_database = nullptr;
     std::unique_ptr<Registry> m_registry;
 };
 
@@ -60,10 +61,7 @@ void RegistryTest::init()
 {
     QFETCH_GLOBAL(QString, backend);
     m_registry = std::make_unique<Registry>();
-    if (!m_database || m_database->isSQLite() != (backend == QLatin1String("sqlite"))) {
-        m_database = std::make_unique<TestDatabase>(backend);
-        QVERIFY(m_database->open());
-    }
+    m_database = &m_databases.opened(backend);
     m_database->clear();
     // The ids are 1, 2, … in this order.
     m_database->run("INSERT INTO customer (number, name, deleted) VALUES (20, 'c20', false), (10, 'c10', false), "

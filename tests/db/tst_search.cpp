@@ -34,7 +34,7 @@ private:
     template <class Record, class Text>
     QStringList read(bool fetched, void (Query::*reader)(Record *) const, Text text);
 
-    std::map<QString, std::unique_ptr<TestDatabase>> m_databases;
+    TestDatabases m_databases;
     TestDatabase *m_database = nullptr;
     std::unique_ptr<Query> m_query;
 };
@@ -56,19 +56,16 @@ static const char paymentRows[] =
 void SearchTest::init()
 {
     QFETCH_GLOBAL(QString, backend);
-    auto &database = m_databases[backend];
-    if (!database) {
-        database = std::make_unique<TestDatabase>(backend);
-        QVERIFY2(database->open(), qPrintable(database->database()->lastError()));
-        database->run(QLatin1String("INSERT INTO invoice (id, customer_id, type, number, date, due_date, "
-                                    "delivery_date, reference_number, total_amount, balance) VALUES ") +
-                      invoiceRows);
-        database->run(QLatin1String("INSERT INTO invoice_item (id, invoice_id, row_number, text) VALUES ") + itemRows);
-        database->run(QLatin1String("INSERT INTO payment (id, invoice_id, date, bank_account_id, amount) VALUES ") +
-                      paymentRows);
-    }
-    m_database = database.get();
+    m_database = &m_databases.opened(backend);
     m_query = m_database->query();
+    if (m_query->maxInvoiceNumber() > 0)
+        return; // filled for an earlier test
+    m_database->run(QLatin1String("INSERT INTO invoice (id, customer_id, type, number, date, due_date, delivery_date, "
+                                  "reference_number, total_amount, balance) VALUES ") +
+                    invoiceRows);
+    m_database->run(QLatin1String("INSERT INTO invoice_item (id, invoice_id, row_number, text) VALUES ") + itemRows);
+    m_database->run(QLatin1String("INSERT INTO payment (id, invoice_id, date, bank_account_id, amount) VALUES ") +
+                    paymentRows);
 }
 
 template <class Record, class Text>

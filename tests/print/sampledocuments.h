@@ -1,16 +1,10 @@
 #ifndef SAMPLEDOCUMENTS_H
 #define SAMPLEDOCUMENTS_H
 
-#include "bankaccount.h"
 #include "customer.h"
 #include "invoice.h"
 #include "invoiceitem.h"
 #include "invoiceprintmodel.h"
-#include "settings.h"
-
-#include <QBuffer>
-#include <QImage>
-#include <QPainter>
 
 /** Documents as a small business makes them, and harder ones. */
 namespace Sample {
@@ -24,53 +18,9 @@ struct Document {
     int printType = InvoicePrintModel::ownType;
     QMap<QString, QVariant> settings; ///< properties besides those of the sample company
     bool hasLogo = false;
+    QString iban;            ///< of the seller's first account, when not the usual one
     bool hasBalance = false; ///< whether the invoice's balance is set already; else nothing is paid
 };
-
-constexpr char sellerName[] = "Metsälän Putki ja Pelti Oy";
-constexpr char iban[] = "FI2112345600000785";
-
-inline QVector<BankAccount> bankAccounts()
-{
-    QVector<BankAccount> accounts(2);
-    accounts[0].name = QStringLiteral("Nordea");
-    accounts[0].iban = QString::fromLatin1(iban);
-    accounts[0].bic = QStringLiteral("NDEAFIHH");
-    accounts[1].name = QStringLiteral("Osuuspankki");
-    accounts[1].iban = QStringLiteral("FI7944052020036082");
-    accounts[1].bic = QStringLiteral("ITELFIHH");
-    accounts[1].rowNumber = 1;
-    return accounts;
-}
-
-inline void fillSeller(Settings &settings)
-{
-    settings.sellerStreetName = QStringLiteral("Pajatie 8");
-    settings.sellerPostCode = QStringLiteral("15880");
-    settings.sellerTownName = QStringLiteral("HOLLOLA");
-    settings.sellerBusinessId = QStringLiteral("0737546-2");
-    settings.setProperty(QStringLiteral("seller/phoneNumber"), QStringLiteral("040 123 4567"));
-    settings.setProperty(QStringLiteral("seller/emailAddress"), QStringLiteral("laskutus@metsalanputki.example"));
-    settings.setProperty(QStringLiteral("seller/webAddress"), QStringLiteral("https://www.metsalanputki.example/"));
-    settings.setProperty(QStringLiteral("seller/vatNumber"), QStringLiteral("FI07375462"));
-    settings.setProperty(QStringLiteral("invoiceForm/footer/text1"), QStringLiteral("LVI-työt vuodesta 1987"));
-}
-
-inline QByteArray logo()
-{
-    QImage image(600, 200, QImage::Format_RGB32);
-    image.fill(Qt::white);
-    QPainter painter(&image);
-    painter.fillRect(0, 40, 120, 120, QColor(0, 90, 140));
-    painter.fillRect(150, 40, 420, 40, QColor(0, 90, 140));
-    painter.fillRect(150, 100, 300, 20, Qt::darkGray);
-    painter.end();
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    return bytes;
-}
 
 inline InvoiceItem item(const char *number, const QString &name, double quantity, const char *unit, double price,
                         int vatRate)
@@ -196,6 +146,15 @@ inline Document extreme()
     document.items[2].unitCode = QStringLiteral("rullakkoa");
     document.items[2].text = QStringLiteral("Ensimmäinen rivi\nToinen rivi, ") +
                              QStringLiteral("joka on niin pitkä, että se jatkuu seuraavalle riville ").repeated(3);
+    return document;
+}
+
+inline Document endless()
+{
+    Document document = ordinary();
+    document.invoice.setProperty(QStringLiteral("t1"), QStringLiteral("Ehdot jatkuvat. ").repeated(400));
+    document.items[0].productName = QStringLiteral("Tuotenimi ").repeated(300);
+    document.items[1].text = QStringLiteral("Selitettä riittää, ").repeated(500);
     return document;
 }
 

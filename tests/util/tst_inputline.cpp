@@ -35,6 +35,7 @@ void InputLineTest::splitWords_data()
     row("\"\" b", {"", "b"});
     row("\"open quote", {"open quote"});
     row("a\\\"b c", {"a\"b", "c"});
+    row("a\\\"n", {"a\"n"}); // an escaped quote ends the escape
     row("\"A \\\"B\\\" C\"", {"A \"B\" C"});
     row("nrt", {"nrt"});
     row("a\\nn", {"a\n\n"});

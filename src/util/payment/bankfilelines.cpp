@@ -7,8 +7,8 @@
 
 namespace {
 
-constexpr int utf8Mib = 106;
-constexpr int maxLineBytes = 64 * 1024; // the longest record of the standards has 500 characters
+constexpr int latin1Mib = 4, utf8Mib = 106; // IANA's numbers of the character sets
+constexpr int maxLineBytes = 64 * 1024;     // the longest record of the standards has 500 characters
 constexpr char byteOrderMark[] = "\xEF\xBB\xBF";
 constexpr char controlZ = '\x1A';
 
@@ -20,7 +20,8 @@ bool isAscii(const QByteArray &bytes)
 } // namespace
 
 BankFileLines::BankFileLines(QIODevice &device, QTextCodec *codec)
-    : m_device(device), m_codec(codec && codec->mibEnum() != utf8Mib ? codec : nullptr)
+    : m_device(device), m_utf8(QTextCodec::codecForMib(utf8Mib)),
+      m_codec(codec && codec != m_utf8 ? codec : QTextCodec::codecForMib(latin1Mib))
 {
 }
 
@@ -59,10 +60,8 @@ QString BankFileLines::decode(const QByteArray &bytes) const
 {
     if (isAscii(bytes))
         return QString::fromLatin1(bytes);
-    if (m_codec)
-        return m_codec->toUnicode(bytes);
     QTextCodec::ConverterState state;
-    const QString text = QTextCodec::codecForMib(utf8Mib)->toUnicode(bytes.constData(), bytes.size(), &state);
+    const QString text = m_utf8->toUnicode(bytes.constData(), bytes.size(), &state);
     const bool valid = state.invalidChars == 0 && state.remainingChars == 0;
-    return valid ? text : QString::fromLatin1(bytes);
+    return valid ? text : m_codec->toUnicode(bytes);
 }

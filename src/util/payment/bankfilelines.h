@@ -15,8 +15,8 @@ class BankFileLines {
 public:
     /**
      * @param device  open for reading; not owned
-     * @param codec   of the file; null for UTF-8. A line that is not UTF-8 is read as ISO-8859-1: the standards name
-     *                the one, editors write the other.
+     * @param codec   of the lines that are not UTF-8; null for ISO-8859-1. The standards name that one, editors write
+     *                UTF-8, and the two are not mistaken for each other.
      */
     explicit BankFileLines(QIODevice &device, QTextCodec *codec = nullptr);
 
@@ -34,7 +34,8 @@ private:
     void skipRest();
 
     QIODevice &m_device;
-    QTextCodec *m_codec; ///< null: UTF-8, else ISO-8859-1
+    QTextCodec *m_utf8;
+    QTextCodec *m_codec; ///< of what is not UTF-8
     QString m_text;
     qint64 m_number = 0;
     bool m_tooLong = false;

@@ -2,35 +2,45 @@
 
 #include "paymentsink.h"
 #include "paymenttext.h"
+#include "xmlguard.h"
 
 #include <algorithm>
 
 namespace {
 
+constexpr int maxDepth = 100;      // the schemas need about twenty
 constexpr int maxTextLength = 500; // the longest text of the schemas
 
 bool isTrue(const QString &text) { return text == QLatin1String("true") || text == QLatin1String("1"); }
 
 } // namespace
 
-/** Reads up to the end of the current element; what no path leads to is passed over. */
+/**
+ * Reads up to the end of the current element; what no path leads to is passed over.
+ * @param parent  the beginning of the paths that has been followed, with its last slash
+ */
 template <class Target, std::size_t size>
-void CamtReader::readElement(const Path<Target> (&paths)[size], Target &target, const QString &parent)
+void CamtReader::readElement(const Path<Target> (&paths)[size], Target &target, QLatin1String parent)
 {
     while (m_xml.readNextStartElement()) {
-        const QString path = parent.isEmpty() ? m_xml.name().toString() : parent + QLatin1Char('/') + m_xml.name();
-        bool leads = false;
+        const QStringRef name = m_xml.name();
+        QLatin1String below; // no text is put together here: half of a file's elements come to nothing
         const auto found = std::find_if(std::begin(paths), std::end(paths), [&](const Path<Target> &wanted) {
-            const bool begins = wanted.path.startsWith(path);
-            leads = leads || (begins && wanted.path.mid(path.size()).startsWith(QLatin1Char('/')));
-            return begins && wanted.path.size() == path.size();
+            if (!wanted.path.startsWith(parent))
+                return false;
+            const QLatin1String rest = wanted.path.mid(parent.size());
+            if (!rest.startsWith(name))
+                return false;
+            if (rest.size() > name.size() && rest.at(name.size()) == QLatin1Char('/'))
+                below = wanted.path.left(parent.size() + name.size() + 1);
+            return rest.size() == name.size();
         });
         if (found != std::end(paths))
             found->read(*this, target);
-        else if (leads)
-            readElement(paths, target, path);
+        else if (!below.isEmpty())
+            readElement(paths, target, below);
         else
-            m_xml.skipCurrentElement();
+            skipElement();
     }
 }
 
@@ -51,7 +61,8 @@ template <auto member> void CamtReader::readAmount(CamtReader &reader, CamtTrans
 
 void CamtReader::read(QIODevice &device)
 {
-    m_xml.setDevice(&device);
+    XmlGuard guard(device);
+    m_xml.setDevice(&guard);
     while (!m_xml.atEnd()) {
         const QXmlStreamReader::TokenType token = m_xml.readNext();
         if (token == QXmlStreamReader::DTD)
@@ -61,8 +72,10 @@ void CamtReader::read(QIODevice &device)
         else if (token == QXmlStreamReader::EndElement)
             m_rootClosed = --m_depth == 0;
     }
-    if (m_xml.hasError())
-        rejectXml();
+    if (guard.hasEnded())
+        rejectXml(tr("liian pitkä osa"));
+    else if (m_xml.hasError())
+        rejectXml(m_rootClosed ? tr("tiedostossa on toinen asiakirja") : m_xml.errorString());
     else if (!m_hasReport)
         m_sink.reject(1, "Document", m_content);
 }
@@ -83,7 +96,7 @@ void CamtReader::readTopElement()
     } else {
         if (m_depth < 2)
             m_content = name.toString();
-        ++m_depth;
+        checkDepth(++m_depth);
     }
 }
 
@@ -209,16 +222,41 @@ void CamtReader::readMessage(CamtReader &reader, CamtTransaction &transaction)
 QString CamtReader::text()
 {
     QString text;
-    for (int depth = 1; depth > 0 && !m_xml.atEnd();) {
-        const QXmlStreamReader::TokenType token = m_xml.readNext();
-        if (token == QXmlStreamReader::StartElement)
-            ++depth;
-        else if (token == QXmlStreamReader::EndElement)
-            --depth;
-        else if (token == QXmlStreamReader::Characters && text.size() < maxTextLength)
+    int depth = 1;
+    while (readWithin(depth)) {
+        if (m_xml.isCharacters() && text.size() < maxTextLength)
             text += m_xml.text().left(maxTextLength);
     }
     return text.simplified();
+}
+
+void CamtReader::skipElement()
+{
+    int depth = 1;
+    while (readWithin(depth))
+        ; // nothing is wanted
+}
+
+/**
+ * Goes on within an element.
+ * @param depth  counts the elements that are open, itself included
+ * @return false at its end, and at the end of the file
+ */
+bool CamtReader::readWithin(int &depth)
+{
+    m_xml.readNext();
+    if (m_xml.isStartElement())
+        checkDepth(++depth);
+    else if (m_xml.isEndElement())
+        --depth;
+    return depth > 0 && !m_xml.atEnd();
+}
+
+/** The parser's memory, and the time of its look for namespaces, grow with the depth. */
+void CamtReader::checkDepth(int depth)
+{
+    if (depth > maxDepth)
+        m_xml.raiseError(tr("liian monta sisäkkäistä elementtiä"));
 }
 
 QString CamtReader::identification()
@@ -240,9 +278,8 @@ qint64 CamtReader::charge()
     return PaymentText::parseXmlAmount(m_amountFormat, text(), cents) ? cents : 0;
 }
 
-void CamtReader::rejectXml()
+void CamtReader::rejectXml(const QString &cause)
 {
-    const QString cause = m_rootClosed ? tr("tiedostossa on toinen asiakirja") : m_xml.errorString();
     const QString column = QString::number(m_xml.columnNumber());
     m_sink.reject(m_xml.lineNumber(), "XML", tr("sarake %1: %2").arg(column, cause));
 }

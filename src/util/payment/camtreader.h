@@ -44,7 +44,7 @@ private:
         void (*read)(CamtReader &, Target &); ///< reads up to the element's end
     };
     template <class Target, std::size_t size>
-    void readElement(const Path<Target> (&paths)[size], Target &target, const QString &parent = QString());
+    void readElement(const Path<Target> (&paths)[size], Target &target, QLatin1String parent = QLatin1String(""));
 
     template <auto member, class Target> static void readText(CamtReader &reader, Target &target);
     template <auto member> static void readHeadText(CamtReader &reader, Entry &entry);
@@ -64,7 +64,10 @@ private:
     QString identification();
     CamtAmount amount();
     qint64 charge();
-    void rejectXml();
+    void skipElement();
+    bool readWithin(int &depth);
+    void checkDepth(int depth);
+    void rejectXml(const QString &cause);
 
     PaymentSink &m_sink;
     const DecimalFormat &m_amountFormat;

@@ -17,7 +17,36 @@ bool isBlank(const QStringList &fields)
     return std::all_of(fields.begin(), fields.end(), [](const QString &field) { return field.trimmed().isEmpty(); });
 }
 
-bool hasOpenQuote(const QString &text) { return text.count(QLatin1Char('"')) % 2 != 0; }
+constexpr QLatin1Char quote('"');
+
+bool hasOpenQuote(const QString &text) { return text.count(quote) % 2 != 0; }
+
+/** @return whether the open quotation mark stands where a quoted field begins; within a text it is part of it */
+bool opensField(const QString &text, const QString &delimiter)
+{
+    int opening = -1;
+    for (int i = 0; i < text.size(); ++i) {
+        if (text.at(i) == quote)
+            opening = opening < 0 ? i : -1;
+    }
+    while (opening > 0 && text.at(opening - 1) == QLatin1Char(' '))
+        --opening;
+    return opening == 0 || (opening > 0 && text.leftRef(opening).endsWith(delimiter));
+}
+
+/** @return whether the first quotation mark that is not doubled stands where a quoted field ends */
+bool closesField(const QString &text, const QString &delimiter)
+{
+    int closing = text.indexOf(quote);
+    while (closing >= 0 && closing + 1 < text.size() && text.at(closing + 1) == quote)
+        closing = text.indexOf(quote, closing + 2);
+    if (closing < 0)
+        return false;
+    do
+        ++closing;
+    while (closing < text.size() && text.at(closing) == QLatin1Char(' '));
+    return closing == text.size() || text.midRef(closing).startsWith(delimiter);
+}
 
 QDate parseDate(const QString &text)
 {
@@ -42,10 +71,12 @@ void CSVPaymentReader::read(QIODevice &device, const QString &delimiter, QTextCo
     m_pending.clear();
     BankFileLines lines(device, codec);
     while (lines.next()) {
-        if (lines.isTooLong())
+        if (lines.isTooLong()) {
+            releasePending();
             m_sink.reject(lines.number(), "length of the record", QString::number(lines.text().size()));
-        else if (!lines.isBlank())
+        } else if (!lines.isBlank()) {
             addLine({lines.text(), lines.number(), lines.isTerminated()});
+        }
     }
     releasePending();
     if (!m_columns.isHeader())
@@ -54,13 +85,15 @@ void CSVPaymentReader::read(QIODevice &device, const QString &delimiter, QTextCo
 
 void CSVPaymentReader::addLine(const Line &line)
 {
-    if (!m_pending.isEmpty() && (m_pending.size() >= maxRecordLines || isRow(line)))
+    const bool odd = hasOpenQuote(line.text);
+    const bool foreign = odd && !closesField(line.text, m_delimiter);
+    if (!m_pending.isEmpty() && (m_pending.size() >= maxRecordLines || foreign || isRow(line)))
         releasePending();
-    if (m_pending.isEmpty() && !hasOpenQuote(line.text)) {
-        readRecord(line);
+    const bool closes = odd && !m_pending.isEmpty();
+    if (m_pending.isEmpty() && !(odd && opensField(line.text, m_delimiter))) {
+        readLine(line);
         return;
     }
-    const bool closes = !m_pending.isEmpty() && hasOpenQuote(line.text);
     m_pending.append(line);
     if (!closes)
         return;
@@ -77,11 +110,16 @@ void CSVPaymentReader::addLine(const Line &line)
 void CSVPaymentReader::releasePending()
 {
     const QVector<Line> pending = std::exchange(m_pending, {});
-    for (Line line : pending) {
-        if (hasOpenQuote(line.text))
-            line.text.remove(QLatin1Char('"'));
-        readRecord(line);
-    }
+    for (const Line &line : pending)
+        readLine(line);
+}
+
+/** Reads a record of one line; a quotation mark without its other is text, and not worth keeping. */
+void CSVPaymentReader::readLine(Line line)
+{
+    if (hasOpenQuote(line.text))
+        line.text.remove(quote);
+    readRecord(line);
 }
 
 QStringList CSVPaymentReader::split(const QString &text, const QString &delimiter)

@@ -52,6 +52,7 @@ private:
 
     void addLine(const Line &line);
     void releasePending();
+    void readLine(Line line);
     void readRecord(const Line &record);
     QStringList split(const QString &text, const QString &delimiter);
     bool readAccountLine(const QStringList &fields);

@@ -67,8 +67,8 @@ QDate PaymentText::parseIsoDate(const QString &text)
     const QChar separator = view.at(monthAt - 1);
     const bool separated = separator == QLatin1Char('-') || separator == QLatin1Char('/');
     const QStringView year = view.left(monthAt - 1), month = view.mid(monthAt, 2), day = view.mid(dayAt, 2);
-    if (!separated || view.at(dayAt - 1) != separator || !Integer::isDigits(year) || !Integer::isDigits(month)
-        || !Integer::isDigits(day))
+    if (!separated || view.at(dayAt - 1) != separator || !Integer::isDigits(year) || !Integer::isDigits(month) ||
+        !Integer::isDigits(day))
         return QDate();
     bool ok = false;
     return QDate(Integer::parse(year, ok), Integer::parse(month, ok), Integer::parse(day, ok));

@@ -1,0 +1,24 @@
+#ifndef IMPORTEDPAYMENT_H
+#define IMPORTEDPAYMENT_H
+
+#include <QDate>
+#include <QString>
+
+/** What became of a payment. */
+enum class ImportResult { saved, alreadyImported, unmatched, ambiguous, error };
+
+/** A payment (or a damaged record) of a bank's file, and what became of it. */
+struct ImportedPayment {
+    QDate date;              ///< the bank's entry date
+    int amount = 0;          ///< cents; negative for a correction or a payment out
+    QString referenceNumber; ///< national form without leading zeros, empty for none
+    QString payerName;
+    QString archiveId;      ///< the bank's, empty for none
+    int bankAccountId = -1; ///< -1: none of the seller's accounts
+    int invoiceId = -1;     ///< -1: none
+    int invoiceNumber = 0;
+    ImportResult result = ImportResult::unmatched;
+    QString message; ///< why, empty for a saved one
+};
+
+#endif

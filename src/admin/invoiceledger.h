@@ -1,0 +1,64 @@
+#ifndef INVOICELEDGER_H
+#define INVOICELEDGER_H
+
+#include "invoice.h"
+#include "payment.h"
+
+#include <QString>
+#include <QVector>
+
+struct ImportedPayment;
+
+/**
+ * The payments of one invoice while a bank's file is imported: those stored before, and those that the file adds.
+ *
+ * Which payment came from which bank entry is kept in the invoice's property `bankArchiveIds`: words of the form
+ * `paymentId:archiveId`.
+ */
+class InvoiceLedger {
+public:
+    /** @param payments  all that are stored for the invoice */
+    InvoiceLedger(const Invoice &invoice, const QVector<Payment> &payments);
+
+    int invoiceId() const { return m_invoice.id; }
+    int invoiceNumber() const { return m_invoice.number; }
+    int balance() const { return m_balance; } ///< with what the file has added, cents
+
+    /**
+     * Whether the bank's entry is among the payments: by its archive id, or, where one side has none, by date, amount
+     * and account. A stored payment stands for one entry of the file: it is taken by the first that equals it.
+     */
+    bool takeKnown(const ImportedPayment &payment);
+    /** Whether there is a payment of that amount. */
+    bool holdsAmount(int amount) const;
+    void add(const ImportedPayment &payment);
+
+    /** The payments that the file added, not stored yet. */
+    QVector<Payment *> newPayments();
+    /** The property text once all payments have their ids; unchanged when the file told nothing new. */
+    QString archiveIds() const;
+
+    static QString archiveIdsKey(); ///< of the invoice's property
+
+    /**
+     * The banks' files tell one archive id at lengths of 16 to 20, with and without the century and separators: its
+     * last sixteen letters and digits are common to all.
+     */
+    static QString comparableId(const QString &archiveId);
+
+private:
+    struct Entry {
+        Payment payment;
+        QString archiveId; ///< comparable form, empty when not known
+        bool isNew = false;
+        bool isTaken = false; ///< stands for an entry of this file
+    };
+
+    void readArchiveIds();
+
+    Invoice m_invoice;
+    QVector<Entry> m_entries;
+    int m_balance;
+};
+
+#endif

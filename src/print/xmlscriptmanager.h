@@ -1,0 +1,63 @@
+#ifndef XMLSCRIPTMANAGER_H
+#define XMLSCRIPTMANAGER_H
+
+#include "scriptrunner.h"
+
+#include <QObject>
+
+class QIODevice;
+class XmlScriptModel;
+
+/**
+ * Writes XML documents (Finvoice) by a script that defines a global function `write()`, in the character set
+ * ISO-8859-15, on demand each behind the transmission frame of the banks: a SOAP 1.1 envelope with an ebXML 2.0 message
+ * header.
+ *
+ * Errors of the script do not show in the results of load() and write(): ask hasException() after either. The exception
+ * is that of the last load or write.
+ */
+class XmlScriptManager : public QObject {
+    Q_OBJECT
+public:
+    explicit XmlScriptManager(QObject *parent = nullptr);
+
+    /** Loads a UTF-8 file or resource. @return false, with nothing loaded, when it cannot be opened */
+    [[nodiscard]] bool load(const QString &fileName);
+    /** @return true always; fileName stands in error messages and back traces */
+    bool loadFromSource(const QString &source, const QString &fileName);
+
+    bool hasException() const { return m_script.hasException(); }
+    QString exception() const { return m_script.exception(); }
+    int exceptionLineNumber() const { return m_script.exceptionLineNumber(); }
+    QStringList backTrace() const { return m_script.backTrace(); }
+
+    bool soapEnvEnabled() const { return m_soapEnvEnabled; }
+    void setSoapEnvEnabled(bool enabled) { m_soapEnvEnabled = enabled; }
+
+    /**
+     * Writes the model's invoice. Without a loaded `write` function, or when the file cannot be written, the file stays
+     * as it was, see lastError(). What was written before an exception is closed and kept.
+     * @param append  adds to the file instead of replacing it
+     */
+    void write(const QString &fileName, bool append, XmlScriptModel *model);
+    /** Why the last write() left no document in the file; empty when it did. */
+    QString lastError() const { return m_lastError; }
+
+    /** Writes the frame that stands in front of a document, and a line feed. @return whether the device took it */
+    static bool writeSoapEnv(QIODevice *file, XmlScriptModel *model);
+
+signals:
+    void exceptionUncaught();
+
+private:
+    QByteArray document(XmlScriptModel *model);
+    bool writeTo(QIODevice *file, XmlScriptModel *model);
+    void replaceFile(const QString &fileName, XmlScriptModel *model);
+    void appendToFile(const QString &fileName, XmlScriptModel *model);
+
+    ScriptRunner m_script;
+    bool m_soapEnvEnabled = false;
+    QString m_lastError;
+};
+
+#endif

@@ -1,0 +1,51 @@
+#ifndef EASFIELDS_H
+#define EASFIELDS_H
+
+#include "fixedrecord.h"
+
+/** The fields of an electronic account statement's records that are read (service description 3.3). */
+namespace EASFields {
+
+constexpr FixedField recordCode{"record code", 1, 3};
+constexpr FixedField recordLength{"record length", 4, 3};
+constexpr FixedField lengthOfRecord{"length of the record", 4, 3};
+
+// T00
+constexpr FixedField accountNumber{"account number", 10, 14};
+constexpr FixedField startingDate{"starting date", 27, 6};
+constexpr FixedField endingDate{"ending date", 33, 6};
+constexpr FixedField creationDate{"creation date", 39, 6};
+constexpr FixedField creationTime{"creation time", 45, 4};
+constexpr FixedField openingSign{"sign", 72, 1};
+constexpr FixedField openingBalance{"opening balance", 73, 18};
+constexpr FixedField currency{"currency code", 97, 3};
+constexpr FixedField ibanAndBic{"IBAN", 293, 30};
+
+// T10
+constexpr FixedField transactionNumber{"transaction number", 7, 6};
+constexpr FixedField filingCode{"filing code", 13, 18};
+constexpr FixedField entryDate{"entry date", 31, 6};
+constexpr FixedField paymentDate{"payment date", 43, 6};
+constexpr FixedField transactionCode{"transaction code", 49, 1};
+constexpr FixedField sign{"sign", 88, 1};
+constexpr FixedField amount{"amount of transaction", 89, 18};
+constexpr FixedField receiptCode{"receipt code", 107, 1};
+constexpr FixedField otherParty{"payer's name", 109, 35};
+constexpr FixedField referenceNumber{"reference number", 160, 20};
+constexpr FixedField levelCode{"level code", 188, 1};
+
+// T11
+constexpr FixedField informationType{"type of additional information", 7, 2};
+constexpr FixedField itemCount{"number of items", 9, 8};
+constexpr FixedField payerName{"payer's name", 9, 35};
+constexpr FixedField creditorReference{"reference number", 9, 35};
+constexpr FixedField fullPayerName{"payer's name", 184, 70};
+
+// T40
+constexpr FixedField balanceDate{"entry date", 7, 6};
+constexpr FixedField balanceSign{"sign", 13, 1};
+constexpr FixedField balance{"closing balance", 14, 18};
+
+} // namespace EASFields
+
+#endif
