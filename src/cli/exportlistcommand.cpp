@@ -18,6 +18,8 @@ namespace {
 struct ListExport;
 
 struct Request {
+    explicit Request(const ListExport &wanted) : list(wanted) {}
+
     const ListExport &list;
     InvoiceCriteria invoices;
     PaymentCriteria payments;
@@ -194,7 +196,7 @@ void parseExportPrintCommand(CommandContext &context, QStringList &args, ListKin
 {
     if (!context.session.ensureOpen() || !context.session.fetch(CachedList::settings))
         return;
-    Request request{lists[static_cast<int>(kind)]};
+    Request request(lists[static_cast<int>(kind)]);
     const ParameterList words = parseParameters(args);
     for (const auto &[key, value] : words) {
         if (!applyParameter(context, key, value, request))

