@@ -9,6 +9,7 @@
 #include "payment.h"
 #include "paymentcriteria.h"
 #include "query.h"
+#include "readtransaction.h"
 #include "recordprinter.h"
 #include "settings.h"
 #include "templatestringhelper.h"
@@ -222,34 +223,28 @@ template <class Record> QHash<int, QVector<Record>> readGrouped(Query *query, vo
         (query->*read)(&record);
         groups[record.invoiceId].append(record);
     }
-    return groups;
+    return !query->hasReadError();
 }
 
 void findInvoices(CommandContext &context, const Search &search)
 {
     Query *query = context.session.query();
+    const ReadTransaction transaction(context.session);
+    if (!transaction.hasBegun())
+        return;
     QHash<int, QVector<InvoiceItem>> items;
-    if (search.invoiceItems) {
-        if (!query->fetchInvoiceItems(&search.criteria)) {
-            context.session.failQuery();
-            return;
-        }
-        items = readGrouped<InvoiceItem>(query, &Query::invoiceItem);
-    }
     QHash<int, QVector<Payment>> payments;
-    if (search.payments) {
-        const PaymentCriteria all;
-        if (!query->fetchPayments(&all, &search.criteria)) {
-            context.session.failQuery();
-            return;
-        }
-        payments = readGrouped<Payment>(query, &Query::payment);
-    }
-    // Invoices are written as they are read, however many there are.
-    if (!query->fetchInvoiceDetails(&search.criteria)) {
+    const PaymentCriteria allPayments;
+    const bool fetched = (!search.invoiceItems || (query->fetchInvoiceItems(&search.criteria) &&
+                                                   readGrouped<InvoiceItem>(query, &Query::invoiceItem, items))) &&
+                         (!search.payments || (query->fetchPayments(&allPayments, &search.criteria) &&
+                                               readGrouped<Payment>(query, &Query::payment, payments))) &&
+                         query->fetchInvoiceDetails(&search.criteria);
+    if (!fetched) {
         context.session.failQuery();
         return;
     }
+    // Invoices are written as they are read, however many there are.
     context.response.startResponse(QStringLiteral("OK"));
     Invoice invoice;
     while (query->nextInvoice()) {
@@ -259,6 +254,11 @@ void findInvoices(CommandContext &context, const Search &search)
             RecordPrinter::printInvoiceItem(context.response, item);
         for (const Payment &payment : payments.value(invoice.id))
             RecordPrinter::printPayment(context.response, payment);
+    }
+    if (query->hasReadError()) {
+        context.response.abandonResponse();
+        context.session.failQuery();
+        return;
     }
     context.response.endResponse();
 }
@@ -289,6 +289,7 @@ int removeInvoices(CommandContext &context, const Search &search)
         query->invoiceDetails(&invoice);
         ids.append(invoice.id);
     }
+    ok = ok && !query->hasReadError();
     for (const int id : qAsConst(ids))
         ok = ok && query->deleteInvoiceItems(id) && query->deletePayments(id) && query->deleteInvoice(id);
     if (!ok) {

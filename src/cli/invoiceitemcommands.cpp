@@ -133,7 +133,6 @@ bool saveInvoiceItem(CommandContext &context, const ParameterList &words, SaveCo
                                               .arg(QString::number(item.invoiceId), item.productName));
     if (!query->saveInvoiceItem(&item))
         return context.session.failQuery();
-    context.lastSaved.invoiceItem = item.id;
     // The row stays saved when the totals cannot be brought up to date, as when its invoice is gone.
     const bool moved = state.earlierInvoiceId >= 0 && state.earlierInvoiceId != item.invoiceId;
     const bool updated = InvoiceTotals::updateInvoice(context, item.invoiceId) &&

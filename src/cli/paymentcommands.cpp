@@ -136,6 +136,11 @@ void findPayments(CommandContext &context, const Search &search)
         query->payment(&payment);
         RecordPrinter::printPayment(context.response, payment);
     }
+    if (query->hasReadError()) {
+        context.response.abandonResponse();
+        context.session.failQuery();
+        return;
+    }
     context.response.endResponse();
 }
 
@@ -167,6 +172,7 @@ int removePayments(CommandContext &context, const Search &search)
         query->payment(&payment);
         ids.append(payment.id);
     }
+    ok = ok && !query->hasReadError();
     for (const int id : qAsConst(ids))
         ok = ok && query->deletePayment(id);
     if (!ok) {

@@ -95,8 +95,8 @@ int PostgreSQLDatabase::upgrade()
     if (version < 1 || version >= schemaVersion)
         return version;
     // One program at a time: two that run the same steps would write each other's version numbers.
-    if (!query.exec(QStringLiteral("SELECT pg_advisory_lock(%1)").arg(writerLock))
-        || !query.exec(QStringLiteral("SELECT version FROM settings")) || !query.next()) {
+    if (!query.exec(QStringLiteral("SELECT pg_advisory_lock(%1)").arg(writerLock)) ||
+        !query.exec(QStringLiteral("SELECT version FROM settings")) || !query.next()) {
         fail(query.lastError().text());
         return upgradeFailed;
     }
@@ -131,8 +131,8 @@ bool PostgreSQLDatabase::beginWriting()
 bool PostgreSQLDatabase::beginReading()
 {
     QSqlQuery query(connection(false));
-    return query.exec(QStringLiteral("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY"))
-            || fail(query.lastError().text());
+    return query.exec(QStringLiteral("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY")) ||
+           fail(query.lastError().text());
 }
 
 Query *PostgreSQLDatabase::query()

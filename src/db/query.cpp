@@ -39,10 +39,7 @@ template <class Record> QString updateStatement()
 
 Query::Query(const QSqlQuery &statement, QObject *parent) : QObject(parent), m_query(statement) {}
 
-QString Query::lastError() const
-{
-    return m_refusal.isEmpty() ? m_query.lastError().text().trimmed() : m_refusal;
-}
+QString Query::lastError() const { return m_refusal.isEmpty() ? m_query.lastError().text().trimmed() : m_refusal; }
 
 bool Query::hasReadError() const { return m_query.lastError().isValid(); }
 

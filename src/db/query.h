@@ -155,7 +155,7 @@ private:
                                   bool hasConditions) const;
 
     bool m_prepareFailed = false;
-    QString m_refusal; ///< of a value of the last statement
+    QString m_refusal;                                  ///< of a value of the last statement
     const InvoiceCriteria *m_invoiceCriteria = nullptr; ///< of the last invoice search, not owned
     QHash<int, int> m_paidAmounts;                      ///< invoice id: payments up to the balance date, cents
     int m_totalColumn = -1;                             ///< column of the total in the current invoice search
