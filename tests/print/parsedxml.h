@@ -52,22 +52,6 @@ public:
     }
     QString text(const QString &path) const { return texts(path).value(0); }
 
-    /** The texts of a child, one for each element of the path; a null text where the child is missing. */
-    QStringList childTexts(const QString &path, const QString &child) const
-    {
-        QStringList result;
-        for (int i = 0; i < elements.size(); ++i) {
-            if (elements.at(i).path != path)
-                continue;
-            result.append(QString());
-            for (const Element &element : elements) {
-                if (element.parent == i && element.path == path + QLatin1Char('/') + child)
-                    result.last() = element.text;
-            }
-        }
-        return result;
-    }
-
     /** The values of an attribute of all elements of a path, null where it is missing. */
     QStringList attributes(const QString &path, const char *name) const
     {
