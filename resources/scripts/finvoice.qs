@@ -72,13 +72,20 @@ var TEXTS = {
     }
 };
 
-// Countries are typed as names; these have their code too, as has every country that is typed as its code.
+// Countries are typed as names in Finnish, Swedish or English, or as their codes.
 var COUNTRY_CODES = {
     suomi: "FI", finland: "FI", ruotsi: "SE", sverige: "SE", sweden: "SE", norja: "NO", norge: "NO", norway: "NO",
-    tanska: "DK", danmark: "DK", denmark: "DK", viro: "EE", estland: "EE", estonia: "EE", eesti: "EE", latvia: "LV",
-    lettland: "LV", liettua: "LT", litauen: "LT", lithuania: "LT", saksa: "DE", tyskland: "DE", germany: "DE",
-    deutschland: "DE", puola: "PL", polen: "PL", poland: "PL", alankomaat: "NL", "nederländerna": "NL",
-    netherlands: "NL", ranska: "FR", frankrike: "FR", france: "FR"
+    tanska: "DK", danmark: "DK", denmark: "DK", islanti: "IS", island: "IS", iceland: "IS", viro: "EE", estland: "EE",
+    estonia: "EE", eesti: "EE", latvia: "LV", lettland: "LV", liettua: "LT", litauen: "LT", lithuania: "LT",
+    saksa: "DE", tyskland: "DE", germany: "DE", deutschland: "DE", "itävalta": "AT", "österrike": "AT", austria: "AT",
+    belgia: "BE", belgien: "BE", belgium: "BE", bulgaria: "BG", bulgarien: "BG", kypros: "CY", cypern: "CY",
+    cyprus: "CY", "tšekki": "CZ", tjeckien: "CZ", czechia: "CZ", espanja: "ES", spanien: "ES", spain: "ES",
+    ranska: "FR", frankrike: "FR", france: "FR", kreikka: "GR", grekland: "GR", greece: "GR", kroatia: "HR",
+    kroatien: "HR", croatia: "HR", unkari: "HU", ungern: "HU", hungary: "HU", irlanti: "IE", irland: "IE",
+    ireland: "IE", italia: "IT", italien: "IT", italy: "IT", luxemburg: "LU", luxembourg: "LU", malta: "MT",
+    alankomaat: "NL", "nederländerna": "NL", netherlands: "NL", puola: "PL", polen: "PL", poland: "PL", portugali: "PT",
+    portugal: "PT", romania: "RO", "rumänien": "RO", slovenia: "SI", slovenien: "SI", slovakia: "SK", slovakien: "SK",
+    sveitsi: "CH", schweiz: "CH", switzerland: "CH"
 };
 
 function write()

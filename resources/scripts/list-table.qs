@@ -50,9 +50,7 @@ function convertEach(values, convert) {
 }
 
 function texts(values) {
-    return convertEach(values, function (value) {
-        return value == undefined ? "" : String(value).replace(/\s+/g, " ");
-    });
+    return convertEach(values, function (value) { return value == undefined ? "" : String(value); });
 }
 
 function numbers(values) { // -1 stands for none
@@ -64,7 +62,7 @@ function amounts(values) { return convertEach(values, formatCurrency); }
 function dates(values) {
     var known = {};
     return convertEach(values, function (value) {
-        if (value == undefined || isNaN(value.getTime()))
+        if (value == undefined)
             return "";
         var time = value.getTime();
         if (!(time in known))
@@ -180,18 +178,18 @@ function cutTexts(columns, width) {
 function placeColumns(columns, width) {
     if (neededWidth(columns, Infinity) > width)
         cutTexts(columns, width);
-    var textCount = 0;
+    var textWidths = 0;
     for (var i = 0; i < columns.length; ++i)
-        textCount += columns[i].isText ? 1 : 0;
+        textWidths += columns[i].isText ? columns[i].width : 0;
     var gapCount = Math.max(columns.length - 1, 1);
     var spare = Math.max(width - neededWidth(columns, Infinity), 0);
     var widening = spare / gapCount;
-    if (textCount > 0)
+    if (textWidths > 0)
         widening = Math.min(widening, WIDEST_COLUMN_GAP - COLUMN_GAP);
     var x = 0;
     for (var k = 0; k < columns.length; ++k) {
         if (columns[k].isText)
-            columns[k].width += (spare - widening * gapCount) / textCount;
+            columns[k].width *= 1 + (spare - widening * gapCount) / textWidths;
         columns[k].x = x;
         x += columns[k].width + COLUMN_GAP + widening;
     }
@@ -280,6 +278,7 @@ function totalsLines(table) {
         drawText(table.left, y + ROW_TEXT_TOP * table.scale, table.right - table.left, 0, label);
     }
     function drawSums(y) {
+        setFont(FONT, table.size, "bold");
         for (var i = 0; i < table.columns.length; ++i)
             drawCell(table, table.columns[i], y, table.columns[i].sum);
         drawLine(table.left, y + table.rowHeight, table.right, y + table.rowHeight);
@@ -336,8 +335,8 @@ function print() {
     setPen(INK, RULE_WIDTH);
     var table = layOutTable();
     var closing = closingLines(table);
-    var capacity = Math.floor((table.bottom - table.top) / table.rowHeight) - 1;
-    var pages = paginate(table.rowCount, closing.length, capacity);
+    var capacity = Math.floor((table.bottom - table.top) / table.rowHeight) - 1; // lines below the captions
+    var pages = paginate(table.rowCount, closing.length, Math.max(capacity, ROWS_WITH_TOTALS + 1));
     for (var i = 0; i < pages.length; ++i) {
         if (i > 0)
             newPage();

@@ -26,6 +26,7 @@ var COLUMNS = [
 // column is not shown gets a line of its own.
 function closingLines(table) {
     var lines = totalsLines(table);
+    lines.push(function () {}); // blank
     function addSumLine(label, path) {
         var text = label + " " + formatCurrency(get(path));
         lines.push(function (y) {

@@ -102,7 +102,7 @@ bool importPayments(CommandContext &context, const Options &options, QVector<Imp
         return false;
     const QVector<int> changed = matcher.changedInvoices();
     for (const int id : changed) {
-        if (!InvoiceTotals::updateInvoice(context, id))
+        if (InvoiceTotals::updateInvoice(context, id) != InvoiceTotals::Outcome::updated)
             return false;
     }
     return transaction.commit();

@@ -34,8 +34,7 @@ CommandInterface::CommandInterface(const QString &title, const QString &helpFile
 
 void CommandInterface::start()
 {
-    QStringList args = QCoreApplication::arguments();
-    args.removeFirst();
+    QStringList args = m_arguments;
     QString settingsFile;
     const bool choosesSettings =
         !args.isEmpty() && (args.first() == QLatin1String("-c") || args.first() == QLatin1String("--config"));

@@ -32,6 +32,9 @@ public:
      */
     CommandInterface(const QString &title, const QString &helpFile, QObject *parent);
 
+    /** The words after the program's name, for start(). */
+    void setArguments(const QStringList &arguments) { m_arguments = arguments; }
+
     CommandContext &context() { return m_context; }
 
     /** Executes one command line; a command that fails ends it with one error response. */
@@ -66,6 +69,7 @@ protected:
 private:
     const QString m_title;
     const QString m_helpFile;
+    QStringList m_arguments;
     Registry m_registry;
     CommandContext m_context;
 };

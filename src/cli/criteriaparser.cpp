@@ -18,7 +18,7 @@ template <class Criteria> struct Key {
 template <auto member, class Criteria>
 bool number(CriteriaParser &parser, const QString &key, const QString &value, Criteria &criteria)
 {
-    return parser.values().parseSearchNumber(key, value, criteria.*member);
+    return parser.values().parseIntValue(key, value, criteria.*member);
 }
 
 template <auto from, auto to, class Criteria>
@@ -70,9 +70,9 @@ bool customerByName(CriteriaParser &parser, const QString &, const QString &valu
 bool invoiceType(CriteriaParser &parser, const QString &key, const QString &value, InvoiceCriteria &criteria)
 {
     int type = 0;
-    if (!parser.values().parseSearchNumber(key, value, type))
+    if (!parser.values().parseIntValue(key, value, type))
         return false;
-    if (type >= Invoice::typeCount) // would set no condition and find everything
+    if (type < 0 || type >= Invoice::typeCount) // would set no condition and find everything
         return parser.values().failNumber(key, value);
     criteria.types = 1 << type;
     return true;

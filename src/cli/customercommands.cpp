@@ -5,6 +5,7 @@
 #include "recordprinter.h"
 
 #include <algorithm>
+#include <limits>
 #include <optional>
 
 namespace {
@@ -130,6 +131,8 @@ struct CustomerKind {
         const int highest = context.session.query()->maxCustomerNumber();
         if (!context.session.query()->lastError().isEmpty())
             return context.session.failQuery();
+        if (highest == std::numeric_limits<int>::max())
+            return context.status.fail(ExitCode::badData, CommandContext::tr("Seuraavaa asiakasnumeroa ei ole"));
         customer.number = std::max(highest, 0) + 1;
         return true;
     }

@@ -225,10 +225,8 @@ void parseExportInvoicesCommand(CommandContext &context, QStringList &args)
     InvoicePrintModel model(&context.session.registry());
     criteria.copy(model.criteria());
     model.setPrintType(request.printType);
-    if (!model.run()) {
-        context.status.fail(ExitCode::databaseFailure, model.lastError());
+    if (!ExportTools::runModel(context, model))
         return;
-    }
     if (request.format < 0)
         request.format = ValueParser::guessPrintFormat(request.fileName, true);
     if (request.format == csvFormat) {

@@ -205,10 +205,8 @@ void parseExportPrintCommand(CommandContext &context, QStringList &args, ListKin
     const std::unique_ptr<PrintModel> model = request.list.makeModel(context, request);
     if (!model)
         return;
-    if (!model->run()) {
-        context.status.fail(ExitCode::databaseFailure, model->lastError());
+    if (!ExportTools::runModel(context, *model))
         return;
-    }
     if (request.format < 0)
         request.format = ValueParser::guessPrintFormat(request.fileName, false);
     const bool csv = request.format == csvFormat;

@@ -1,6 +1,15 @@
 #include "exporttools.h"
 
+#include "printmodel.h"
+#include "readtransaction.h"
+
 #include <QDir>
+
+bool ExportTools::runModel(CommandContext &context, PrintModel &model)
+{
+    const ReadTransaction transaction(context.session);
+    return transaction.hasBegun() && (model.run() || context.status.fail(ExitCode::databaseFailure, model.lastError()));
+}
 
 bool ExportTools::failWriting(CommandContext &context, const QString &fileName, const QString &reason)
 {

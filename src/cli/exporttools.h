@@ -3,6 +3,8 @@
 
 #include "commandcontext.h"
 
+class PrintModel;
+
 /** What the exports of invoices and of lists share. */
 namespace ExportTools {
 
@@ -19,6 +21,9 @@ template <class Host> bool checkLoaded(CommandContext &context, const Host &host
         return context.status.fail(ExitCode::databaseFailure, CommandContext::tr("Tulostuspohjaa ei voi lukea"));
     return !host.hasException() || context.status.fail(ExitCode::badData, exceptionText(host));
 }
+
+/** Gathers the model's data, all of one moment. */
+[[nodiscard]] bool runModel(CommandContext &context, PrintModel &model);
 
 bool failWriting(CommandContext &context, const QString &fileName, const QString &reason);
 

@@ -9,6 +9,7 @@
 #include "payment.h"
 #include "paymentcriteria.h"
 #include "query.h"
+#include "readtransaction.h"
 #include "recordprinter.h"
 #include "settings.h"
 #include "templatestringhelper.h"
@@ -16,6 +17,8 @@
 
 #include <QHash>
 #include <QVector>
+
+#include <limits>
 
 namespace {
 
@@ -147,6 +150,8 @@ bool completeNewInvoice(CommandContext &context, State &state)
         const int highest = context.session.query()->maxInvoiceNumber();
         if (!context.session.query()->lastError().isEmpty())
             return context.session.failQuery();
+        if (highest == std::numeric_limits<int>::max())
+            return context.status.fail(ExitCode::badData, CommandContext::tr("Seuraavaa laskunumeroa ei ole"));
         invoice.number = highest + 1;
         updateReferenceNumber(context, &invoice, &state.customer);
     }
@@ -209,43 +214,37 @@ bool parseSearch(CommandContext &context, const ParameterList &words, Search &se
     return true;
 }
 
-/** Reads all rows of a search, grouped by their invoice. */
-template <class Record> QHash<int, QVector<Record>> readGrouped(Query *query, void (Query::*read)(Record *) const)
+/** Reads all rows of a search, grouped by their invoice. @return false when the reading fails on the way */
+template <class Record>
+bool readGrouped(Query *query, void (Query::*read)(Record *) const, QHash<int, QVector<Record>> &groups)
 {
-    QHash<int, QVector<Record>> groups;
     while (query->next()) {
         Record record;
         (query->*read)(&record);
         groups[record.invoiceId].append(record);
     }
-    return groups;
+    return !query->hasReadError();
 }
 
 void findInvoices(CommandContext &context, const Search &search)
 {
     Query *query = context.session.query();
+    const ReadTransaction transaction(context.session);
+    if (!transaction.hasBegun())
+        return;
     QHash<int, QVector<InvoiceItem>> items;
-    if (search.invoiceItems) {
-        if (!query->fetchInvoiceItems(&search.criteria)) {
-            context.session.failQuery();
-            return;
-        }
-        items = readGrouped<InvoiceItem>(query, &Query::invoiceItem);
-    }
     QHash<int, QVector<Payment>> payments;
-    if (search.payments) {
-        const PaymentCriteria all;
-        if (!query->fetchPayments(&all, &search.criteria)) {
-            context.session.failQuery();
-            return;
-        }
-        payments = readGrouped<Payment>(query, &Query::payment);
-    }
-    // Invoices are written as they are read, however many there are.
-    if (!query->fetchInvoiceDetails(&search.criteria)) {
+    const PaymentCriteria allPayments;
+    const bool fetched = (!search.invoiceItems || (query->fetchInvoiceItems(&search.criteria) &&
+                                                   readGrouped<InvoiceItem>(query, &Query::invoiceItem, items))) &&
+                         (!search.payments || (query->fetchPayments(&allPayments, &search.criteria) &&
+                                               readGrouped<Payment>(query, &Query::payment, payments))) &&
+                         query->fetchInvoiceDetails(&search.criteria);
+    if (!fetched) {
         context.session.failQuery();
         return;
     }
+    // Invoices are written as they are read, however many there are.
     context.response.startResponse(QStringLiteral("OK"));
     Invoice invoice;
     while (query->nextInvoice()) {
@@ -256,7 +255,24 @@ void findInvoices(CommandContext &context, const Search &search)
         for (const Payment &payment : payments.value(invoice.id))
             RecordPrinter::printPayment(context.response, payment);
     }
+    if (query->hasReadError()) {
+        context.response.abandonResponse();
+        context.session.failQuery();
+        return;
+    }
     context.response.endResponse();
+}
+
+/** A search that was given keys which restrict nothing (a negative number does not) is no order to remove everything.
+ */
+bool checkRestricts(CommandContext &context, const Search &search, bool hasKeys)
+{
+    QString sql;
+    QVariantList params;
+    const bool restricts = context.session.query()->buildInvoiceWhereClause(&search.criteria, sql, params, QString(),
+                                                                            QStringLiteral(" WHERE "));
+    return restricts || !hasKeys ||
+           context.status.fail(ExitCode::badData, CommandContext::tr("Hakuehdot eivät rajaa poistettavia laskuja"));
 }
 
 /** @return the number of invoices removed, -1 on failure */
@@ -273,6 +289,7 @@ int removeInvoices(CommandContext &context, const Search &search)
         query->invoiceDetails(&invoice);
         ids.append(invoice.id);
     }
+    ok = ok && !query->hasReadError();
     for (const int id : qAsConst(ids))
         ok = ok && query->deleteInvoiceItems(id) && query->deletePayments(id) && query->deleteInvoice(id);
     if (!ok) {
@@ -302,12 +319,15 @@ void parseFindInvoicesCommand(CommandContext &context, QStringList &args, FindCo
     if (!context.session.ensureOpen())
         return;
     Search search;
-    if (!parseSearch(context, parseParameters(args), search))
+    const ParameterList words = parseParameters(args);
+    if (!parseSearch(context, words, search))
         return;
     if (mode == FindCommandMode::find) {
         findInvoices(context, search);
         return;
     }
+    if (!checkRestricts(context, search, !words.isEmpty()))
+        return;
     const int count = removeInvoices(context, search);
     if (count < 0)
         return;

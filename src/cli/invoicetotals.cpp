@@ -10,6 +10,12 @@
 
 namespace {
 
+InvoiceTotals::Outcome failQuery(CommandContext &context)
+{
+    context.session.failQuery();
+    return InvoiceTotals::Outcome::failed;
+}
+
 bool fitsIntoCents(long long sum)
 {
     return sum >= std::numeric_limits<int>::min() && sum <= std::numeric_limits<int>::max();
@@ -17,35 +23,41 @@ bool fitsIntoCents(long long sum)
 
 } // namespace
 
-bool InvoiceTotals::updateInvoice(CommandContext &context, int invoiceId)
+InvoiceTotals::Outcome InvoiceTotals::updateInvoice(CommandContext &context, int invoiceId)
 {
     Invoice invoice;
     if (!context.finder.findInvoiceById(invoiceId, &invoice))
-        return false;
+        return Outcome::failed;
     Query *query = context.session.query();
 
     long long amount = 0;
     if (!query->fetchInvoiceItems(invoiceId))
-        return context.session.failQuery();
+        return failQuery(context);
     InvoiceItem item;
     while (query->next()) {
         query->invoiceItem(&item);
         amount += item.totalAmountVatIncluded();
     }
+    if (query->hasReadError())
+        return failQuery(context);
 
     long long balance = amount;
     if (!query->fetchPayments(invoiceId))
-        return context.session.failQuery();
+        return failQuery(context);
     Payment payment;
     while (query->next()) {
         query->payment(&payment);
         balance -= payment.amount;
     }
+    if (query->hasReadError())
+        return failQuery(context);
 
-    if (!fitsIntoCents(amount) || !fitsIntoCents(balance))
-        return context.status.fail(ExitCode::badData, CommandContext::tr("Laskun loppusumma on liian suuri"));
+    if (!fitsIntoCents(amount) || !fitsIntoCents(balance)) {
+        context.status.fail(ExitCode::badData, CommandContext::tr("Laskun loppusumma on liian suuri"));
+        return Outcome::tooLarge;
+    }
     invoice.totalAmount = static_cast<int>(amount);
     invoice.balance = static_cast<int>(balance);
     context.diagnostics.printDebugMessage(CommandContext::tr("Tallennetaan laskun %1 tiedot").arg(invoice.number));
-    return query->saveInvoice(&invoice) || context.session.failQuery();
+    return query->saveInvoice(&invoice) ? Outcome::updated : failQuery(context);
 }

@@ -6,11 +6,14 @@ struct CommandContext;
 /** An invoice's stored total and balance, recomputed from its rows and payments. */
 namespace InvoiceTotals {
 
-/**
- * Recomputes and saves the total and the balance.
- * @return false with the failure in the status, nothing changed: no such invoice, or a sum beyond 32 bits of cents
- */
-[[nodiscard]] bool updateInvoice(CommandContext &context, int invoiceId);
+enum class Outcome {
+    updated,
+    failed,   ///< the statement failed or there is no such invoice: what was saved before stays saved
+    tooLarge, ///< beyond 32 bits of cents: what was saved before must be taken back
+};
+
+/** Recomputes and saves the total and the balance; a failure is in the status, with nothing changed. */
+[[nodiscard]] Outcome updateInvoice(CommandContext &context, int invoiceId);
 
 } // namespace InvoiceTotals
 

@@ -99,9 +99,12 @@ bool savePayment(CommandContext &context, const ParameterList &words, SaveComman
     // The payment stays saved when the totals cannot be brought up to date, as when its invoice is gone.
     const int invoiceId = state.record.invoiceId;
     const bool moved = state.earlierInvoiceId >= 0 && state.earlierInvoiceId != invoiceId;
-    const bool updated = InvoiceTotals::updateInvoice(context, invoiceId) &&
-                         (!moved || InvoiceTotals::updateInvoice(context, state.earlierInvoiceId));
-    return transaction.commit() && updated;
+    InvoiceTotals::Outcome outcome = InvoiceTotals::updateInvoice(context, invoiceId);
+    if (moved && outcome == InvoiceTotals::Outcome::updated)
+        outcome = InvoiceTotals::updateInvoice(context, state.earlierInvoiceId);
+    if (outcome == InvoiceTotals::Outcome::tooLarge)
+        return false;
+    return transaction.commit() && outcome == InvoiceTotals::Outcome::updated;
 }
 
 struct Search {
@@ -136,7 +139,26 @@ void findPayments(CommandContext &context, const Search &search)
         query->payment(&payment);
         RecordPrinter::printPayment(context.response, payment);
     }
+    if (query->hasReadError()) {
+        context.response.abandonResponse();
+        context.session.failQuery();
+        return;
+    }
     context.response.endResponse();
+}
+
+/** A search that was given keys which restrict nothing (a negative number does not) is no order to remove everything.
+ */
+bool checkRestricts(CommandContext &context, const Search &search, bool hasKeys)
+{
+    QString sql;
+    QVariantList params;
+    const Query *query = context.session.query();
+    const QString keyword = QStringLiteral(" WHERE ");
+    const bool restricts = query->buildPaymentWhereClause(&search.payments, nullptr, sql, params, QString(), keyword) ||
+                           query->buildInvoiceWhereClause(&search.invoices, sql, params, QString(), keyword);
+    return restricts || !hasKeys ||
+           context.status.fail(ExitCode::badData, CommandContext::tr("Hakuehdot eivät rajaa poistettavia suorituksia"));
 }
 
 /** The balances of the invoices stay as they are. @return the number of payments removed, -1 on failure */
@@ -153,6 +175,7 @@ int removePayments(CommandContext &context, const Search &search)
         query->payment(&payment);
         ids.append(payment.id);
     }
+    ok = ok && !query->hasReadError();
     for (const int id : qAsConst(ids))
         ok = ok && query->deletePayment(id);
     if (!ok) {
@@ -182,12 +205,15 @@ void parseFindPaymentsCommand(CommandContext &context, QStringList &args, FindCo
     if (!context.session.ensureOpen())
         return;
     Search search;
-    if (!parseSearch(context, parseParameters(args), search))
+    const ParameterList words = parseParameters(args);
+    if (!parseSearch(context, words, search))
         return;
     if (mode == FindCommandMode::find) {
         findPayments(context, search);
         return;
     }
+    if (!checkRestricts(context, search, !words.isEmpty()))
+        return;
     const int count = removePayments(context, search);
     if (count < 0)
         return;

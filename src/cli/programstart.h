@@ -1,7 +1,7 @@
 #ifndef PROGRAMSTART_H
 #define PROGRAMSTART_H
 
-class QApplication;
+#include <QStringList>
 
 /** What every program of the system does around its application object. */
 namespace ProgramStart {
@@ -11,6 +11,9 @@ namespace ProgramStart {
  * with LC_ALL=C) is taken as UTF-8, so that Finnish letters survive.
  */
 void prepare();
+
+/** The words after the program's name, decoded from the locale's character set. */
+QStringList arguments(int argc, char *argv[]);
 
 /** Names the application; the settings file is found by it. */
 void nameApplication();

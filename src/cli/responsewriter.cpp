@@ -7,6 +7,7 @@
 #include <QTextCodec>
 
 #include <cerrno>
+#include <poll.h>
 #include <unistd.h>
 
 namespace {
@@ -45,6 +46,7 @@ ResponseWriter::ResponseWriter(int descriptor)
 
 void ResponseWriter::startResponse(const QString &status)
 {
+    m_wasWritten = false;
     m_buffer += QLatin1String("{ \"status\": ");
     appendJsonString(status);
     m_noRecordsYet = true;
@@ -151,8 +153,17 @@ QString ResponseWriter::formatJsonString(const QString &text)
     return quoted;
 }
 
+void ResponseWriter::abandonResponse()
+{
+    if (m_wasWritten)
+        endResponse();
+    else
+        m_buffer.resize(0);
+}
+
 void ResponseWriter::write()
 {
+    m_wasWritten = true;
     const QByteArray bytes = QTextCodec::codecForLocale()->fromUnicode(m_buffer);
     m_buffer.resize(0); // keeps the memory for the next piece
     const char *rest = bytes.constData();
@@ -161,6 +172,11 @@ void ResponseWriter::write()
         const ssize_t written = ::write(m_descriptor, rest, static_cast<std::size_t>(length));
         if (written < 0 && errno == EINTR)
             continue;
+        if (written < 0 && (errno == EAGAIN || errno == EWOULDBLOCK)) { // the reader's pipe is full and set not to wait
+            pollfd wait = {m_descriptor, POLLOUT, 0};
+            ::poll(&wait, 1, -1);
+            continue;
+        }
         if (written <= 0)
             return; // nobody is there to be told
         rest += written;

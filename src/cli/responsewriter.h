@@ -20,6 +20,8 @@ public:
     void startRecord(const QString &recordType);
     void endRecord();
     void endResponse();
+    /** Ends a response that cannot be completed: it is taken back unless a part of it was written already. */
+    void abandonResponse();
 
     void printRawProperty(const char *name, const QString &rawValue);
     void printProperty(const char *name, const QString &value);
@@ -45,6 +47,7 @@ private:
     QString m_buffer;
     bool m_noRecordsYet = true;
     bool m_firstProperty = true;
+    bool m_wasWritten = false; ///< a part of the current response
     DecimalFormat m_amountFormat, m_totalFormat, m_quantityFormat, m_percentageFormat;
 };
 

@@ -49,17 +49,6 @@ bool ValueParser::parseIntValue(const QString &key, const QString &value, int &r
     return true;
 }
 
-bool ValueParser::parseSearchNumber(const QString &key, const QString &value, int &result)
-{
-    int number = 0;
-    if (!parseIntValue(key, value, number))
-        return false;
-    if (number < 0)
-        return failNumber(key, value);
-    result = number;
-    return true;
-}
-
 bool ValueParser::parseIdValue(const QString &key, const QString &value, int lastSaved, int &result)
 {
     if (value != QLatin1String("@"))
@@ -76,7 +65,7 @@ bool ValueParser::parseIntRangeValue(const QString &key, const QString &value, i
     const QStringView view(value);
     const int first = separator < 1 ? 0 : Integer::parse(view.left(separator), fromOk);
     const int last = separator < 1 ? 0 : Integer::parse(view.mid(separator + 1), toOk);
-    if (!fromOk || !toOk || last < 0) // a negative bound would mean no bound
+    if (!fromOk || !toOk)
         return fail(tr("Virheellinen numeroväli: %1=%2"), key, value);
     from = first;
     to = last;

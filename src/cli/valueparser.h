@@ -22,8 +22,6 @@ public:
     explicit ValueParser(CommandStatus &status);
 
     [[nodiscard]] bool parseIntValue(const QString &key, const QString &value, int &result);
-    /** A number that a search takes: negative ones mean "unset" there, and would find everything. */
-    [[nodiscard]] bool parseSearchNumber(const QString &key, const QString &value, int &result);
     /** @param lastSaved  what "@" stands for */
     [[nodiscard]] bool parseIdValue(const QString &key, const QString &value, int lastSaved, int &result);
     /** "N1-N2", in any order */

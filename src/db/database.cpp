@@ -25,9 +25,17 @@ void Database::close() { QSqlDatabase::removeDatabase(m_connectionName); }
 
 QSqlDatabase Database::connection(bool open) const { return QSqlDatabase::database(m_connectionName, open); }
 
-bool Database::transaction() { return connection(false).transaction(); }
+bool Database::transaction()
+{
+    m_lastError.clear();
+    return connection(false).transaction();
+}
 
-bool Database::commit() { return connection(false).commit(); }
+bool Database::commit()
+{
+    m_lastError.clear();
+    return connection(false).commit();
+}
 
 bool Database::rollback() { return connection(false).rollback(); }
 
@@ -69,14 +77,18 @@ bool Database::createTables(const QString &sellerName)
     QStringList statements;
     if (!readCreationScript(statements))
         return false;
-    QSqlQuery statement(connection(false));
-    for (const QString &sql : qAsConst(statements)) {
-        if (!statement.exec(sql))
-            return fail(statement.lastError().text());
-    }
-    const std::unique_ptr<Query> records(query());
+    // In one transaction: a creation that fails leaves nothing to trip over.
     if (!transaction())
         return fail(connection(false).lastError().text());
+    QSqlQuery statement(connection(false));
+    for (const QString &sql : qAsConst(statements)) {
+        if (!statement.exec(sql)) {
+            fail(statement.lastError().text());
+            rollback();
+            return false;
+        }
+    }
+    const std::unique_ptr<Query> records(query());
     if (!records->addInitialData(sellerName)) {
         fail(records->lastError());
         rollback();

@@ -47,6 +47,8 @@ public:
      * what it reads stays true until the commit, so that no number is given twice.
      */
     [[nodiscard]] virtual bool beginWriting() = 0;
+    /** Begins a transaction whose reads all see the same moment. */
+    [[nodiscard]] virtual bool beginReading() = 0;
 
     /**
      * @return a number that changes whenever another connection commits a change, and only then; -1 when the backend

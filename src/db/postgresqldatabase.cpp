@@ -2,15 +2,21 @@
 
 #include "postgresqlquery.h"
 
-#include <QDebug>
+#include <QLoggingCategory>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
 
+Q_LOGGING_CATEGORY(databaseLog, "billora.database")
+
 namespace {
 
 constexpr int defaultPort = 5432;
+
+/** How long a statement waits for another client's lock before it fails. */
+constexpr int lockTimeoutMs = 5000;
 
 /** Any constant serves, as long as every writer of this program takes the same. */
 constexpr int writerLock = 0x42494c4c;
@@ -39,7 +45,9 @@ bool PostgreSQLDatabase::open(QSettings *settings)
     if (!m_exists && isCreateIfNotExist())
         ok = createDatabase(database, name);
     if (!ok)
-        return fail(database.lastError().text());
+        return lastError().isEmpty() ? fail(database.lastError().text()) : false;
+    // A client that stopped in the middle must not keep the others waiting for ever.
+    database.exec(QStringLiteral("SET lock_timeout = '%1ms'").arg(lockTimeoutMs));
 
     const int version = upgrade();
     if (version == noTables)
@@ -49,19 +57,29 @@ bool PostgreSQLDatabase::open(QSettings *settings)
 
 bool PostgreSQLDatabase::createDatabase(QSqlDatabase &database, const QString &name)
 {
+    // The name stands unquoted in the statement: another one would be folded or split.
+    static const QRegularExpression plainName(QStringLiteral("^[a-z_][a-z0-9_]*$"));
+    if (!plainName.match(name).hasMatch())
+        return fail(tr("Tietokannan nimessä %1 voi olla vain pieniä kirjaimia a-z, numeroita ja alaviivoja").arg(name));
+    QString error;
     database.setDatabaseName(QStringLiteral("postgres"));
     if (!database.open()) {
-        qWarning() << database.lastError();
+        error = database.lastError().text();
     } else {
         QSqlQuery query(database);
         if (!query.exec(QStringLiteral("CREATE DATABASE %1").arg(name)))
-            qWarning() << query.lastError();
+            error = query.lastError().text();
         query.finish();
         database.close();
     }
     database.setDatabaseName(name);
     m_exists = true;
-    return database.open();
+    if (database.open())
+        return true;
+    if (error.isEmpty())
+        error = database.lastError().text();
+    qCWarning(databaseLog).noquote() << error;
+    return fail(error);
 }
 
 int PostgreSQLDatabase::upgrade()
@@ -76,11 +94,25 @@ int PostgreSQLDatabase::upgrade()
     const int version = query.value(0).toInt();
     if (version < 1 || version >= schemaVersion)
         return version;
+    // One program at a time: two that run the same steps would write each other's version numbers.
+    if (!query.exec(QStringLiteral("SELECT pg_advisory_lock(%1)").arg(writerLock)) ||
+        !query.exec(QStringLiteral("SELECT version FROM settings")) || !query.next()) {
+        fail(query.lastError().text());
+        return upgradeFailed;
+    }
+    const int reached = upgradeFrom(query.value(0).toInt());
+    query.exec(QStringLiteral("SELECT pg_advisory_unlock(%1)").arg(writerLock));
+    return reached;
+}
+
+int PostgreSQLDatabase::upgradeFrom(int version)
+{
+    QSqlQuery query(connection(false));
     bool ok = true;
     for (int from = version; from < schemaVersion; ++from)
         ok = upgradeStep(query, from);
     if (!ok)
-        qWarning() << query.lastError();
+        qCWarning(databaseLog).noquote() << query.lastError().text();
     return ok ? schemaVersion : upgradeFailed;
 }
 
@@ -94,6 +126,13 @@ bool PostgreSQLDatabase::beginWriting()
     fail(query.lastError().text());
     rollback();
     return false;
+}
+
+bool PostgreSQLDatabase::beginReading()
+{
+    QSqlQuery query(connection(false));
+    return query.exec(QStringLiteral("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY")) ||
+           fail(query.lastError().text());
 }
 
 Query *PostgreSQLDatabase::query()

@@ -16,6 +16,7 @@ public:
     bool open(QSettings *settings) override;
     bool driverAvailable() const override;
     bool beginWriting() override;
+    bool beginReading() override;
     Query *query() override;
 
 protected:
@@ -28,6 +29,7 @@ private:
 
     bool createDatabase(QSqlDatabase &database, const QString &name);
     int upgrade();
+    int upgradeFrom(int version);
 };
 
 #endif

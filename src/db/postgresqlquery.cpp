@@ -21,3 +21,9 @@ int PostgreSQLQuery::sequenceValue(const QString &sequenceName)
         m_query.exec(QLatin1String("SELECT currval('") + sequenceName + QLatin1String("')")) && m_query.next();
     return found ? m_query.value(0).toInt() : 0;
 }
+
+QString PostgreSQLQuery::refusal(const QVariant &value) const
+{
+    const bool hasNul = value.type() == QVariant::String && value.toString().contains(QChar(QChar::Null));
+    return hasNul ? tr("PostgreSQL ei tallenna tekstiä, jossa on NUL-merkki") : QString();
+}

@@ -12,6 +12,7 @@ public:
 protected:
     QString newIdExpression(const char *table) const override;
     int insertedId(const char *table) override;
+    QString refusal(const QVariant &value) const override;
     QString likeOperator() const override { return QStringLiteral("ILIKE"); }
     QString escapeClause() const override { return QStringLiteral(" ESCAPE E'\\\\'"); }
     /** A prepared statement lives on the server, and is lost with the connection. */

@@ -49,21 +49,21 @@ template <class Record> QString updateStatement()
 
 Query::Query(const QSqlQuery &statement, QObject *parent) : QObject(parent), m_query(statement) {}
 
-QString Query::lastError() const { return m_query.lastError().text().trimmed(); }
+QString Query::lastError() const { return m_refusal.isEmpty() ? m_query.lastError().text().trimmed() : m_refusal; }
+
+bool Query::hasReadError() const { return m_query.lastError().isValid(); }
 
 bool Query::execute(const QString &sql, const QVariantList &values)
 {
-    m_query.finish(); // what was not read of the statement before must not keep its table locked
-    const auto kept = m_statements.constFind(sql);
-    m_prepareFailed = false;
-    if (kept != m_statements.constEnd()) {
-        m_query = *kept;
-    } else {
-        m_prepareFailed = !m_query.prepare(sql);
-        if (m_prepareFailed)
+    m_refusal.clear();
+    for (const QVariant &value : values) {
+        m_refusal = refusal(value);
+        if (!m_refusal.isEmpty())
             return false;
-        keepStatement(sql);
     }
+    m_prepareFailed = !prepare(sql);
+    if (m_prepareFailed)
+        return false;
     for (int i = 0; i < values.size(); ++i)
         m_query.bindValue(i, values.at(i));
     if (m_query.exec())
@@ -72,13 +72,22 @@ bool Query::execute(const QString &sql, const QVariantList &values)
     return false;
 }
 
-void Query::keepStatement(const QString &sql)
+bool Query::prepare(const QString &sql)
 {
-    if (!keepsStatements())
-        return;
-    if (m_statements.size() == maxKeptStatements) // texts that vary without end, with a search's criteria
-        m_statements.clear();
-    m_statements.insert(sql, m_query);
+    m_query.finish(); // what was not read of the statement before must not keep its table locked
+    const auto kept = m_statements.constFind(sql);
+    if (kept != m_statements.constEnd()) {
+        m_query = *kept;
+        return true;
+    }
+    if (!m_query.prepare(sql))
+        return false;
+    if (keepsStatements()) {
+        if (m_statements.size() == maxKeptStatements) // texts that vary without end, with a search's criteria
+            m_statements.clear();
+        m_statements.insert(sql, m_query);
+    }
+    return true;
 }
 
 bool Query::isConnected()

@@ -33,6 +33,8 @@ public:
     bool next() { return m_query.next(); }
     bool last() { return m_query.last(); }
     void finish() { m_query.finish(); }
+    /** Whether next() ended the rows because of a failure, which lastError() tells, and not at their end. */
+    bool hasReadError() const;
     /** Asks the database: a server may have gone. */
     bool isConnected();
 
@@ -129,6 +131,8 @@ protected:
     // What a backend does differently.
     virtual QString newIdExpression(const char *table) const;
     virtual int insertedId(const char *table);
+    /** @return why the backend cannot store the value; empty when it can */
+    virtual QString refusal(const QVariant &) const { return QString(); }
     virtual QString likeOperator() const { return QStringLiteral("LIKE"); }
     virtual QString escapeClause() const { return QStringLiteral(" ESCAPE '\\'"); }
     /** Whether prepared statements are kept for the next time: most of a small statement's time is its preparation. */
@@ -138,7 +142,7 @@ protected:
 
 private:
     bool execute(const QString &sql, const QVariantList &values = {});
-    void keepStatement(const QString &sql);
+    bool prepare(const QString &sql);
     int firstInteger(const QString &sql, const QVariantList &values = {});
     template <class Record> bool fetchAll(const char *order);
     template <class Record> bool fetchWhere(const char *condition, int value, const char *rest = "");
@@ -155,6 +159,7 @@ private:
 
     QHash<QString, QSqlQuery> m_statements; ///< the kept ones by their text; m_query is one of them
     bool m_prepareFailed = false;
+    QString m_refusal;                                  ///< of a value of the last statement
     const InvoiceCriteria *m_invoiceCriteria = nullptr; ///< of the last invoice search, not owned
     QHash<int, int> m_paidAmounts;                      ///< invoice id: payments up to the balance date, cents
     int m_totalColumn = -1;                             ///< column of the total in the current invoice search

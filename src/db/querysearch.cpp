@@ -228,7 +228,7 @@ bool Query::fetchPaymentAmounts(const InvoiceCriteria *c)
         payment(&record);
         m_paidAmounts[record.invoiceId] += record.amount;
     }
-    return true;
+    return !hasReadError();
 }
 
 bool Query::nextInvoice()

@@ -34,6 +34,20 @@ template <class List, class Matches> int indexOfMatch(const List &list, Matches 
     return it == list.end() ? -1 : static_cast<int>(it - list.begin());
 }
 
+/** Reads all rows into new records. @return false, with nothing left, when the reading fails on the way */
+template <class Record> bool readAll(Query &query, void (Query::*read)(Record *) const, QList<Record *> &records)
+{
+    while (query.next()) {
+        records.append(new Record);
+        (query.*read)(records.last());
+    }
+    if (!query.hasReadError())
+        return true;
+    qDeleteAll(records);
+    records.clear();
+    return false;
+}
+
 /** Puts a record into a list ordered by a key, and by id among equal keys as the database does. */
 template <class Record, class Key> void insertOrdered(QList<Record *> &list, Record *record, Key key)
 {
@@ -114,12 +128,11 @@ bool Registry::fetchSettings(Query *query)
 
 bool Registry::fetchCustomers(Query *query)
 {
-    if (!query->fetchCustomers())
+    QList<Customer *> customers;
+    if (!query->fetchCustomers() || !readAll(*query, &Query::customer, customers))
         return false;
     deleteCustomers();
-    while (query->next()) {
-        auto *customer = new Customer;
-        query->customer(customer);
+    for (Customer *customer : qAsConst(customers)) {
         m_customersById.insert(customer->id, customer);
         if (!customer->deleted)
             m_customers.append(customer);
@@ -130,27 +143,24 @@ bool Registry::fetchCustomers(Query *query)
 
 bool Registry::fetchProducts(Query *query)
 {
-    if (!query->fetchProducts())
+    QList<Product *> products;
+    if (!query->fetchProducts() || !readAll(*query, &Query::product, products))
         return false;
     deleteProducts();
-    while (query->next()) {
-        auto *product = new Product;
-        query->product(product);
-        m_products.append(product);
+    m_products = products;
+    for (Product *product : qAsConst(products))
         m_productsById.insert(product->id, product);
-    }
     emit productsFetched();
     return true;
 }
 
 bool Registry::fetchBankAccounts(Query *query)
 {
-    if (!query->fetchBankAccounts())
+    QList<BankAccount *> accounts;
+    if (!query->fetchBankAccounts() || !readAll(*query, &Query::bankAccount, accounts))
         return false;
     deleteBankAccounts();
-    while (query->next()) {
-        auto *account = new BankAccount;
-        query->bankAccount(account);
+    for (BankAccount *account : qAsConst(accounts)) {
         m_bankAccountsById.insert(account->id, account);
         if (!account->deleted)
             m_bankAccounts.append(account);
@@ -161,25 +171,25 @@ bool Registry::fetchBankAccounts(Query *query)
 
 bool Registry::fetchPrintScripts(Query *query)
 {
-    if (!query->fetchPrintScriptSummaries())
+    QList<PrintScript *> scripts;
+    if (!query->fetchPrintScriptSummaries() || !readAll(*query, &Query::printScriptSummary, scripts))
         return false;
     deletePrintScripts();
-    while (query->next()) {
-        auto *script = new PrintScript;
-        query->printScriptSummary(script);
-        m_printScripts.append(script);
-    }
+    m_printScripts = scripts;
     return true;
 }
 
 void Registry::storeCustomer(const Customer &customer)
 {
-    store(m_customers, m_customersById, customer, !customer.deleted, [](const Customer *c) { return c->number; });
+    Customer stored = customer;
+    stored.propertiesFromString(customer.propertiesToString()); // as the database gives it back
+    store(m_customers, m_customersById, stored, !stored.deleted, [](const Customer *c) { return c->number; });
 }
 
 void Registry::storeProduct(const Product &product)
 {
-    store(m_products, m_productsById, product, true, [](const Product *p) { return p->number; });
+    // By bytes, as SQLite compares.
+    store(m_products, m_productsById, product, true, [](const Product *p) { return p->number.toUtf8(); });
 }
 
 void Registry::storeBankAccount(const BankAccount &account)

@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QSettings>
 #include <QSqlDatabase>
 #include <QSqlError>
@@ -12,6 +13,9 @@ namespace {
 
 /** How long a statement waits for another program's lock before it fails. */
 constexpr int busyTimeoutMs = 5000;
+
+/** How long an upgrade by another program is waited for. */
+constexpr int upgradeWaitMs = 60000;
 
 } // namespace
 
@@ -52,6 +56,7 @@ bool SQLiteDatabase::beginWriting()
 {
     // IMMEDIATE: a transaction that first reads and then wants to write could otherwise meet another one that does
     // the same, and neither could go on.
+    fail(QString());
     QSqlQuery query(connection(false));
     return query.exec(QStringLiteral("BEGIN IMMEDIATE")) || fail(query.lastError().text());
 }
@@ -82,20 +87,32 @@ bool SQLiteDatabase::backupTo(const QString &filename)
     return fail(tr("Tiedostoa %1 ei voi kirjoittaa: %2").arg(filename, query.lastError().text().trimmed()));
 }
 
-bool SQLiteDatabase::upgrade(const QString &filename)
+/** @return the schema version, 0 without a settings row, nothing when it cannot be read */
+std::optional<int> SQLiteDatabase::storedVersion()
 {
     QSqlQuery query(connection(false));
     query.exec(QStringLiteral("SELECT version FROM settings"));
-    if (!query.isActive())
-        return fail(tr("Tietokantaa %1 ei voi lukea: %2").arg(filename, query.lastError().text().trimmed()));
-    if (!query.next())
+    if (query.isActive())
+        return query.next() ? query.value(0).toInt() : 0;
+    fail(query.lastError().text());
+    return std::nullopt;
+}
+
+bool SQLiteDatabase::upgrade(const QString &filename)
+{
+    std::optional<int> version = storedVersion();
+    if (!version)
+        return fail(tr("Tietokantaa %1 ei voi lukea: %2").arg(filename, lastError()));
+    if (*version < 1 || *version >= schemaVersion)
         return true;
-    const int version = query.value(0).toInt();
-    query.finish(); // an open read would keep the tables from being altered
-    if (version < 1)
-        return true;
+    // One program at a time: two that run the same steps would write each other's version numbers. A lock of the
+    // database itself would not outlive the copying of the file.
+    QLockFile lock(filename + QLatin1String(".upgrade-lock"));
+    lock.tryLock(upgradeWaitMs);
+    version = storedVersion();
+    QSqlQuery query(connection(false));
     bool ok = true;
-    for (int from = version; from < schemaVersion; ++from) {
+    for (int from = version.value_or(schemaVersion); from < schemaVersion; ++from) {
         backup(filename);
         ok = upgradeStep(query, from); // a failed step does not stop the later ones; the backups are there
     }

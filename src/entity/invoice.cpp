@@ -80,7 +80,9 @@ QDate Invoice::calculateDueDate() const
 {
     static const QRegularExpression number(QStringLiteral("(\\d+)"));
     const QRegularExpressionMatch match = number.match(paymentTerms);
-    return match.hasMatch() ? date.addDays(match.captured(1).toLongLong()) : QDate();
+    bool ok = false;
+    const int days = match.captured(1).toInt(&ok);
+    return ok ? date.addDays(days) : QDate();
 }
 
 QString Invoice::barcode(const BankAccount *account, int version) const

@@ -41,6 +41,8 @@ long long Vat::addVat(long long amount, int vatRate)
 
 long long Vat::substractVat(long long amount, int vatRate)
 {
+    if (vatRate <= -wholePercentage)
+        return amount; // no such rate; stored by nobody but a broken program
     const double factor = 1 / (vatRate / 100.0 / Constants::percentageScale + 1.0);
     const long long scaledFactor = static_cast<long long>(factor * factorScale);
     return round(static_cast<__int128>(amount) * scaledFactor, factorDigits);

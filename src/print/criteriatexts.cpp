@@ -18,7 +18,7 @@ template <class Bound> void addRange(QStringList &lines, const QString &wording,
     const QString first = text(from);
     const QString last = text(to);
     if (!first.isEmpty() || !last.isEmpty())
-        lines.append(wording.arg(first, last).trimmed());
+        lines.append(wording.arg(first, last).simplified());
 }
 
 /** The word behind a LIKE pattern: without the wildcards at its ends and the escapes. */

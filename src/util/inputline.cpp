@@ -3,6 +3,7 @@
 #include <QTextCodec>
 
 #include <cerrno>
+#include <poll.h>
 #include <unistd.h>
 
 namespace {
@@ -13,6 +14,22 @@ bool isWhiteSpace(QChar c)
 {
     const ushort u = c.unicode();
     return (u >= 9 && u <= 13) || u == 32 || u == 0xA0 || u == 0x85 || (u > 127 && c.isSpace());
+}
+
+/** read(), waiting for input also where the descriptor was set not to wait. */
+ssize_t readBlock(int descriptor, char *block, std::size_t size)
+{
+    for (;;) {
+        const ssize_t count = ::read(descriptor, block, size);
+        if (count >= 0)
+            return count;
+        if (errno == EAGAIN || errno == EWOULDBLOCK) {
+            pollfd wait = {descriptor, POLLIN, 0};
+            ::poll(&wait, 1, -1);
+        } else if (errno != EINTR) {
+            return count;
+        }
+    }
 }
 
 } // namespace
@@ -41,10 +58,7 @@ bool InputLine::read(QString &line)
         m_position = 0;
         searchFrom = m_buffer.size();
         char block[blockSize];
-        ssize_t count;
-        do
-            count = ::read(m_descriptor, block, sizeof block);
-        while (count < 0 && errno == EINTR);
+        const ssize_t count = readBlock(m_descriptor, block, sizeof block);
         m_atEnd = count <= 0;
         if (!m_atEnd)
             m_buffer.append(block, static_cast<int>(count));

@@ -1,6 +1,7 @@
 #include "scriptrunner.h"
 
 #include <QElapsedTimer>
+#include <QTemporaryFile>
 #include <QtTest>
 
 /** What scripts of the tests call as `env`. */
@@ -101,8 +102,7 @@ void ScriptRunnerTest::runaways()
     QFETCH(QString, body);
     ScriptRunner runner(prelude, "print");
     runner.setTimeLimit(300);
-    runner.loadFromSource("var runs = 0; function print() { if (runs++ > 0 && env.said) return; " + body + " }",
-                          "own.qs");
+    runner.loadFromSource("function print() { " + body + " }", "own.qs");
     Environment environment;
     QElapsedTimer timer;
     timer.start();
@@ -112,10 +112,9 @@ void ScriptRunnerTest::runaways()
     QVERIFY(runner.exception().contains("0.3 sekuntia") || runner.exception().startsWith("RangeError"));
 
     // The engine works on, for the next document.
-    ScriptRunner &same = runner;
-    same.callForNumber("unknown", 0);
-    QCOMPARE(same.callForNumber("Number", 7), 0);
-    QVERIFY(!same.hasException());
+    QCOMPARE(runner.callForNumber("nosuch", 7), 7);
+    QCOMPARE(runner.callForNumber("Number", 7), 0);
+    QVERIFY(!runner.hasException());
 }
 
 void ScriptRunnerTest::entryPoint()
@@ -176,9 +175,16 @@ void ScriptRunnerTest::files()
     QVERIFY(!runner.load("/nonexistent/own.qs"));
     QVERIFY(!runner.load(":/scripts/nosuch.qs"));
     QVERIFY(!runner.isRunnable());
-    QVERIFY(runner.load(":/scripts/invoice.qs"));
-    QVERIFY2(!runner.hasException(), qPrintable(runner.exception()));
-    QVERIFY(runner.isRunnable());
+    QTemporaryFile file;
+    QVERIFY(file.open());
+    file.write("\xef\xbb\xbf"
+               "function print() { say('\xc3\xa4\xe2\x82\xac'); }\r\n"); // a byte order mark, UTF-8
+    file.close();
+    QVERIFY(runner.load(file.fileName()));
+    Environment environment;
+    runner.run(&environment);
+    QCOMPARE(environment.said, QStringList(QString::fromUtf8(u8"ä€")));
+    QVERIFY(runner.load(":/scripts/invoice.qs")); // the resources are linked in
 }
 
 QTEST_GUILESS_MAIN(ScriptRunnerTest)
