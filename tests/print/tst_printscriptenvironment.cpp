@@ -42,6 +42,7 @@ private slots:
     void numbers_data();
     void numbers();
     void shapes();
+    void nonsense();
     void pens_data();
     void pens();
     void fonts_data();
@@ -179,6 +180,28 @@ void PrintScriptEnvironmentTest::shapes()
     wipe();
     env.drawLine(1.04, 2.06, 4, 2.06); // rounded to 10, 21
     QCOMPARE(ink().topLeft(), QPoint(10, 21));
+}
+
+/** Whatever numbers a script comes up with, the program goes on. */
+void PrintScriptEnvironmentTest::nonsense()
+{
+    PrintScriptEnvironment &env = environment();
+    for (const double number : {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(),
+                                -std::numeric_limits<double>::infinity(), 1e300, -1e300, 1e9}) {
+        env.fillRect(number, number, number, number);
+        env.drawRect(0, 0, number, number);
+        env.drawText(0, 0, number, 0, "right", "abc");
+        env.drawText(number, number, 10, number, "left", "abc\nabc");
+        env.drawText(0, 0, 10, number, "center", "abc");
+        env.drawImage(0, 0, number, 1, "logo");
+        env.boundingRect(number, 0, 10, number, "left", "abc");
+        env.setLineHeight(number);
+        env.setPen("no colour", number);
+    }
+    for (const int scale : {-5, 9, 10, 40, std::numeric_limits<int>::max()}) {
+        QVERIFY(!env.formatNumber(std::numeric_limits<int>::min(), scale, scale).isEmpty());
+        QVERIFY(!env.formatNumber(1, scale, -scale).isEmpty());
+    }
 }
 
 void PrintScriptEnvironmentTest::pens_data()
