@@ -48,7 +48,7 @@ public:
      */
     void run(QObject *environment);
 
-    /** The number that a global function of the script returns; the default when it returns or is none. */
+    /** The number that a global function of the script returns; the default when there is none, or an exception. */
     int callForNumber(const char *function, int defaultNumber);
 
     /** Null until a script is loaded. */
