@@ -22,16 +22,15 @@ const Key<const InvoiceItem &> itemKeys[] = {
     {"amountVatExcluded", [](const InvoiceItem &i, QStringList &) { return QVariant(i.amountVatExcluded()); }},
     {"vatAmount",
      [](const InvoiceItem &i, QStringList &) { return QVariant(i.amountVatIncluded() - i.amountVatExcluded()); }},
-    {"quantity", [](const InvoiceItem &i, QStringList &) { return QVariant(static_cast<int>(i.quantity)); }},
+    {"quantity", [](const InvoiceItem &i, QStringList &) { return ValuePath::number(i.quantity); }},
     {"vatRate", field<&InvoiceItem::vatRate>},
     {"discountPercent", field<&InvoiceItem::discount>},
-    {"totalAmount",
-     [](const InvoiceItem &i, QStringList &) { return QVariant(static_cast<int>(i.totalAmountVatIncluded())); }},
+    {"totalAmount", [](const InvoiceItem &i, QStringList &) { return ValuePath::number(i.totalAmountVatIncluded()); }},
     {"totalAmountVatExcluded",
-     [](const InvoiceItem &i, QStringList &) { return QVariant(static_cast<int>(i.totalAmountVatExcluded())); }},
+     [](const InvoiceItem &i, QStringList &) { return ValuePath::number(i.totalAmountVatExcluded()); }},
     {"totalVatAmount",
      [](const InvoiceItem &i, QStringList &) {
-         return QVariant(static_cast<int>(i.totalAmountVatIncluded() - i.totalAmountVatExcluded()));
+         return ValuePath::number(i.totalAmountVatIncluded() - i.totalAmountVatExcluded());
      }},
     {"discountAmount", [](const InvoiceItem &i, QStringList &) { return QVariant(i.discountAmount()); }},
 };
@@ -49,9 +48,9 @@ QVariant itemsValue(Model &model, const Invoice &invoice, QStringList &path)
 const Key<const Vat &, int &> vatKeys[] = {
     {"percent", [](const Vat &, int &rate, QStringList &) { return QVariant(rate); }},
     {"amountVatExcluded",
-     [](const Vat &v, int &rate, QStringList &) { return QVariant(v.totalAmountVatExcluded(rate)); }},
-    {"vatAmount", [](const Vat &v, int &rate, QStringList &) { return QVariant(v.totalVatAmount(rate)); }},
-    {"amount", [](const Vat &v, int &rate, QStringList &) { return QVariant(v.totalAmount(rate)); }},
+     [](const Vat &v, int &rate, QStringList &) { return ValuePath::number(v.totalAmountVatExcluded(rate)); }},
+    {"vatAmount", [](const Vat &v, int &rate, QStringList &) { return ValuePath::number(v.totalVatAmount(rate)); }},
+    {"amount", [](const Vat &v, int &rate, QStringList &) { return ValuePath::number(v.totalAmount(rate)); }},
 };
 
 // Customer -----------------------------------------------------------------------------------------------------------
@@ -137,8 +136,8 @@ const InvoiceKey invoiceKeys[] = {
     {"sellerRef", field<&Invoice::sellerRef>},
     {"interestOnArrears", field<&Invoice::interestOnArrears>},
     {"totalAmountVatExcluded",
-     [](Model &m, const Invoice &i, QStringList &) { return QVariant(m.vat(i).totalAmountVatExcluded()); }},
-    {"totalVatAmount", [](Model &m, const Invoice &i, QStringList &) { return QVariant(m.vat(i).totalVatAmount()); }},
+     [](Model &m, const Invoice &i, QStringList &) { return ValuePath::number(m.vat(i).totalAmountVatExcluded()); }},
+    {"totalVatAmount", [](Model &m, const Invoice &i, QStringList &) { return ValuePath::number(m.vat(i).totalVatAmount()); }},
     {"totalAmount", field<&Invoice::totalAmount>},
     {"balance", field<&Invoice::balance>},
     {"periodForComplaints",

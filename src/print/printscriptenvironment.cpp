@@ -99,16 +99,13 @@ QVariantList PrintScriptEnvironment::toHundredths(const QRect &rect) const
 
 QVariant PrintScriptEnvironment::get(const QString &path) { return m_model->value(path); }
 
-QString PrintScriptEnvironment::formatCurrency(qlonglong amount)
-{
-    return m_currencyFormat.format(static_cast<int>(amount));
-}
+QString PrintScriptEnvironment::formatCurrency(qlonglong amount) { return m_currencyFormat.format(amount); }
 
 QString PrintScriptEnvironment::formatNumber(qlonglong number, int scale, int minFractionDigits)
 {
     m_numberFormat.setFractionDigits(scale);
     m_numberFormat.setMinFractionDigits(minFractionDigits);
-    return m_numberFormat.format(static_cast<int>(number));
+    return m_numberFormat.format(number);
 }
 
 QString PrintScriptEnvironment::formatDate(const QDate &date, const QString &format) { return date.toString(format); }

@@ -28,7 +28,7 @@ public:
      */
     ScriptRunner(const char *prelude, const char *entryPoint);
 
-    /** For tests. */
+    /** For documents that may take longer, and for tests. */
     void setTimeLimit(int milliseconds) { m_timeLimitMs = milliseconds; }
 
     /** Loads a UTF-8 file. @return false, with nothing loaded, when it cannot be opened */

@@ -162,7 +162,7 @@ void PrintScriptEnvironmentTest::numbers()
     env.setLocale(locale);
     QTEST(env.formatCurrency(-1234567), "currency");
     QTEST(env.formatNumber(12345000, 4, 1), "quantity");
-    QTEST(env.formatCurrency((1LL << 32) - 1234567), "currency"); // 32 bits count
+    QVERIFY(!env.formatCurrency(3600000000LL).startsWith(QChar(0x2212))); // a list's sum is beyond 32 bits
 }
 
 void PrintScriptEnvironmentTest::shapes()
