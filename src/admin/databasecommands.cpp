@@ -11,8 +11,13 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
-#include <memory>
+#include <cerrno>
+#include <cstring>
 #include <optional>
+
+#include <fcntl.h>
+#include <stdio.h> // renameat2()
+#include <unistd.h>
 
 namespace {
 
@@ -51,16 +56,19 @@ bool text(CommandContext &, const QString &key, const QString &value, State &sta
 
 bool type(CommandContext &context, const QString &key, const QString &value, State &state)
 {
-    if (value != QLatin1String("sqlite") && value != QLatin1String("postgresql"))
+    const QString name = value.toLower();
+    if (name != QLatin1String("sqlite") && name != QLatin1String("postgresql"))
         return context.status.fail(ExitCode::badData,
                                    CommandContext::tr("Virheellinen tietokantatyyppi: %1").arg(value));
-    return text(context, key, value, state);
+    return text(context, key, name, state);
 }
 
 bool filename(CommandContext &context, const QString &key, const QString &value, State &state)
 {
     if (value.isEmpty())
         return context.status.fail(ExitCode::badData, CommandContext::tr("Parametri filename on pakollinen"));
+    if (value.startsWith(QLatin1Char(':'))) // names a resource or a database in memory
+        return context.status.fail(ExitCode::badData, CommandContext::tr("Virheellinen tiedostonimi: %1").arg(value));
     // Absolute: the list is used from any folder.
     return text(context, key, QFileInfo(QDir::fromNativeSeparators(value)).absoluteFilePath(), state);
 }
@@ -88,30 +96,64 @@ void printDatabase(ResponseWriter &response, const QVariantMap &entry, int lastU
     response.endRecord();
 }
 
-/** Creates the database through its backend. On failure nothing of it is left. */
-bool createDatabase(CommandContext &context, const QVariantMap &entry)
+/**
+ * Puts a finished file in place unless another one has come there meanwhile.
+ * @return false with errno set
+ */
+bool putInPlace(const QString &from, const QString &to)
+{
+    const QByteArray source = QFile::encodeName(from);
+    const QByteArray target = QFile::encodeName(to);
+    if (::renameat2(AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
+        return true;
+    if (errno != EINVAL && errno != ENOSYS)
+        return false;
+    return ::link(source.constData(), target.constData()) == 0 && ::unlink(source.constData()) == 0;
+}
+
+/** Creates the database of an entry through its backend. On failure nothing of it is left. */
+bool createThroughBackend(CommandContext &context, Database &database, const QVariantMap &entry)
 {
     // The backend reads the keys of a settings object; the list gets the entry only when all went well.
     const QTemporaryDir folder;
     QSettings settings(folder.filePath(QStringLiteral("database.ini")), QSettings::IniFormat);
     for (auto it = entry.cbegin(); it != entry.cend(); ++it)
         settings.setValue(it.key(), it.value());
+    database.setCreateIfNotExist(true);
+    const bool created = database.open(&settings) && database.exists();
+    const QString error = database.lastError();
+    database.close();
+    return created || context.status.fail(ExitCode::databaseFailure, error);
+}
 
-    const bool postgresql = DatabaseList::isPostgreSQL(entry);
-    std::unique_ptr<Database> database;
-    if (postgresql)
-        database = std::make_unique<PostgreSQLDatabase>();
-    else
-        database = std::make_unique<SQLiteDatabase>();
-    database->setCreateIfNotExist(true);
-    const bool created = database->open(&settings) && database->exists();
-    const QString error = database->lastError();
-    database->close();
-    if (created)
+/** A new file is made under another name first: what stands under its own name is whole, and is never another's. */
+bool createSQLiteDatabase(CommandContext &context, const QVariantMap &entry)
+{
+    const QString file = entry.value(QStringLiteral("filename")).toString();
+    QVariantMap part = entry;
+    const QString partName = QStringLiteral("%1.%2.part").arg(file).arg(::getpid());
+    part.insert(QStringLiteral("filename"), partName);
+    SQLiteDatabase database;
+    const bool created = createThroughBackend(context, database, part);
+    if (created && putInPlace(partName, file))
         return true;
-    if (!postgresql)
-        QFile::remove(entry.value(QStringLiteral("filename")).toString());
-    return context.status.fail(ExitCode::databaseFailure, error);
+    const int error = errno;
+    QFile::remove(partName);
+    context.status.lastError.replace(partName, file); // the user knows the name that was asked for
+    if (!created)
+        return false;
+    return context.status.fail(ExitCode::databaseFailure,
+                               error == EEXIST ? CommandContext::tr("Tiedosto on jo olemassa: %1").arg(file)
+                                               : CommandContext::tr("Tiedostoa %1 ei voi kirjoittaa: %2")
+                                                     .arg(file, QString::fromLocal8Bit(std::strerror(error))));
+}
+
+bool createDatabase(CommandContext &context, const QVariantMap &entry)
+{
+    if (!DatabaseList::isPostgreSQL(entry))
+        return createSQLiteDatabase(context, entry);
+    PostgreSQLDatabase database;
+    return createThroughBackend(context, database, entry);
 }
 
 /** Fills what a new entry was not given; false when the entry cannot be used. */
@@ -135,11 +177,12 @@ bool completeEntry(CommandContext &context, State &state, const DatabaseList &li
     return true;
 }
 
+QString settingsFile(CommandContext &context) { return context.session.registry().appSettings()->fileName(); }
+
 bool failSettingsFile(CommandContext &context)
 {
-    const QString file = context.session.registry().appSettings()->fileName();
     return context.status.fail(ExitCode::databaseFailure,
-                               CommandContext::tr("Asetustiedostoa ei voi kirjoittaa: %1").arg(file));
+                               CommandContext::tr("Asetustiedostoa ei voi kirjoittaa: %1").arg(settingsFile(context)));
 }
 
 /** Takes the one parameter, number=N, and checks that the list has such a database. */
@@ -164,9 +207,13 @@ void parseCreateDatabaseCommand(CommandContext &context, QStringList &args)
     State state;
     if (!applyParameters(context, parseParameters(args), createParameters, SaveCommandMode::add, state))
         return;
-    DatabaseList list(context.session.registry().appSettings());
+    DatabaseList list(settingsFile(context), DatabaseList::writing);
     if (!completeEntry(context, state, list))
         return;
+    if (!list.isWritable()) {
+        failSettingsFile(context);
+        return;
+    }
     context.session.closeDatabase(); // both would use one connection name
     if (!createDatabase(context, state.entry))
         return;
@@ -181,6 +228,7 @@ void parseCreateDatabaseCommand(CommandContext &context, QStringList &args)
         failSettingsFile(context);
         return;
     }
+    context.session.registry().appSettings()->sync(); // another object wrote the file
     if (!context.session.openDatabase(number, false))
         return;
     context.response.startResponse(QStringLiteral("OK"));
@@ -195,7 +243,7 @@ void parseFindDatabasesCommand(CommandContext &context, QStringList &args)
         context.status.failUnknownParameter(words.first().first);
         return;
     }
-    const DatabaseList list(context.session.registry().appSettings());
+    const DatabaseList list(settingsFile(context), DatabaseList::reading);
     context.response.startResponse(QStringLiteral("OK"));
     for (const QVariantMap &entry : list.entries())
         printDatabase(context.response, entry, list.lastUsed());
@@ -204,7 +252,7 @@ void parseFindDatabasesCommand(CommandContext &context, QStringList &args)
 
 void parseSelectDatabaseCommand(CommandContext &context, QStringList &args)
 {
-    DatabaseList list(context.session.registry().appSettings());
+    DatabaseList list(settingsFile(context), DatabaseList::writing);
     int number = 0;
     if (!parseNumber(context, args, list, number))
         return;
@@ -213,6 +261,7 @@ void parseSelectDatabaseCommand(CommandContext &context, QStringList &args)
         failSettingsFile(context);
         return;
     }
+    context.session.registry().appSettings()->sync();
     context.response.startResponse(QStringLiteral("OK"));
     for (const QVariantMap &entry : list.entries()) {
         if (DatabaseList::number(entry) == number)
@@ -223,7 +272,7 @@ void parseSelectDatabaseCommand(CommandContext &context, QStringList &args)
 
 void parseForgetDatabaseCommand(CommandContext &context, QStringList &args)
 {
-    DatabaseList list(context.session.registry().appSettings());
+    DatabaseList list(settingsFile(context), DatabaseList::writing);
     int number = 0;
     if (!parseNumber(context, args, list, number))
         return;
@@ -232,6 +281,7 @@ void parseForgetDatabaseCommand(CommandContext &context, QStringList &args)
         failSettingsFile(context);
         return;
     }
+    context.session.registry().appSettings()->sync();
     context.response.startResponse(QStringLiteral("OK"));
     context.response.printNumRemoved(1);
     context.response.endResponse();

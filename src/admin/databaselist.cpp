@@ -2,23 +2,52 @@
 
 #include "settingsfile.h"
 
-#include <QSettings>
+#include <QElapsedTimer>
+#include <QThread>
 
-DatabaseList::DatabaseList(QSettings *settings) : m_settings(settings)
+namespace {
+
+constexpr int lockWaitMs = 30000;
+constexpr int lockStepMs = 20;
+
+} // namespace
+
+DatabaseList::DatabaseList(const QString &settingsFile, Access access)
 {
-    settings->beginGroup(QStringLiteral("databases"));
-    m_lastUsed = settings->value(QStringLiteral("lastUsed"), -1).toInt();
-    const int size = settings->beginReadArray(QStringLiteral("settings"));
+    if (access == writing) {
+        SettingsFile::makeFolder(settingsFile);
+        m_lock = std::make_unique<QLockFile>(settingsFile + QLatin1String(".list-lock"));
+        // Tried often: the library's own waiting grows to seconds. isWritable() tells whether it worked.
+        QElapsedTimer waited;
+        waited.start();
+        while (!m_lock->tryLock(0) && m_lock->error() == QLockFile::LockFailedError && waited.elapsed() < lockWaitMs)
+            QThread::msleep(lockStepMs);
+    }
+    m_settings = SettingsFile::open(settingsFile);
+    read();
+}
+
+void DatabaseList::read()
+{
+    m_settings->beginGroup(QStringLiteral("databases"));
+    m_lastUsed = m_settings->value(QStringLiteral("lastUsed"), -1).toInt();
+    const int size = m_settings->beginReadArray(QStringLiteral("settings"));
     for (int i = 0; i < size; ++i) {
-        settings->setArrayIndex(i);
+        m_settings->setArrayIndex(i);
         QVariantMap entry;
-        const QStringList keys = settings->allKeys();
+        const QStringList keys = m_settings->allKeys();
         for (const QString &key : keys)
-            entry.insert(key, settings->value(key));
+            entry.insert(key, m_settings->value(key));
         m_entries.append(entry);
     }
-    settings->endArray();
-    settings->endGroup();
+    m_settings->endArray();
+    m_settings->endGroup();
+}
+
+bool DatabaseList::isWritable()
+{
+    return m_lock && m_lock->isLocked() && SettingsFile::createPrivate(m_settings->fileName()) &&
+           m_settings->isWritable();
 }
 
 int DatabaseList::number(const QVariantMap &entry) { return entry.value(QStringLiteral("number"), 0).toInt(); }
@@ -57,7 +86,7 @@ void DatabaseList::remove(int number)
 
 bool DatabaseList::save()
 {
-    if (!SettingsFile::createPrivate(m_settings->fileName()))
+    if (!isWritable())
         return false;
     m_settings->beginGroup(QStringLiteral("databases"));
     if (m_lastUsed < 0)

@@ -2,16 +2,26 @@
 #define DATABASELIST_H
 
 #include <QList>
+#include <QLockFile>
+#include <QSettings>
 #include <QString>
 #include <QVariantMap>
 
-class QSettings;
+#include <memory>
 
 /** The settings file's list of databases, which the graphical edition shares: unknown keys of an entry are kept. */
 class DatabaseList {
 public:
-    /** Reads the list. @param settings  not owned, outlives the list */
-    explicit DatabaseList(QSettings *settings);
+    enum Access { reading, writing };
+
+    /**
+     * Reads the list.
+     * @param access  writing keeps other programs of this system from writing the list until this object is gone
+     */
+    DatabaseList(const QString &settingsFile, Access access);
+
+    /** Whether the settings file can be written; its missing folders are made. */
+    [[nodiscard]] bool isWritable();
 
     /** An entry's keys: number, type, filename or host, port, databaseName, username and password, and others. */
     const QList<QVariantMap> &entries() const { return m_entries; }
@@ -32,7 +42,10 @@ public:
 private:
     int indexOf(int number) const;
 
-    QSettings *m_settings;
+    void read();
+
+    std::unique_ptr<QLockFile> m_lock; ///< null while reading only
+    std::unique_ptr<QSettings> m_settings;
     QList<QVariantMap> m_entries;
     int m_lastUsed = -1;
 };

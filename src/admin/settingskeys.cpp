@@ -117,7 +117,8 @@ const PropertyKey *propertyKey(const QString &key)
         if (key == QLatin1String(property.key))
             return &property;
     }
-    return key.startsWith(footerPrefix) && key.size() > footerPrefix.size() ? &footer : nullptr;
+    const QStringView number = QStringView(key).mid(footerPrefix.size());
+    return key.startsWith(footerPrefix) && Integer::isDigits(number) ? &footer : nullptr;
 }
 
 } // namespace

@@ -214,10 +214,10 @@ bool parseSearch(CommandContext &context, const ParameterList &words, Search &se
     return true;
 }
 
-/** Reads all rows of a search, grouped by their invoice. */
-template <class Record> QHash<int, QVector<Record>> readGrouped(Query *query, void (Query::*read)(Record *) const)
+/** Reads all rows of a search, grouped by their invoice. @return false when the reading fails on the way */
+template <class Record>
+bool readGrouped(Query *query, void (Query::*read)(Record *) const, QHash<int, QVector<Record>> &groups)
 {
-    QHash<int, QVector<Record>> groups;
     while (query->next()) {
         Record record;
         (query->*read)(&record);

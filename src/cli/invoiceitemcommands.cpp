@@ -135,9 +135,13 @@ bool saveInvoiceItem(CommandContext &context, const ParameterList &words, SaveCo
         return context.session.failQuery();
     // The row stays saved when the totals cannot be brought up to date, as when its invoice is gone.
     const bool moved = state.earlierInvoiceId >= 0 && state.earlierInvoiceId != item.invoiceId;
-    const bool updated = InvoiceTotals::updateInvoice(context, item.invoiceId) &&
-                         (!moved || InvoiceTotals::updateInvoice(context, state.earlierInvoiceId));
-    return transaction.commit() && updated;
+    InvoiceTotals::Outcome outcome = InvoiceTotals::updateInvoice(context, item.invoiceId);
+    if (moved && outcome == InvoiceTotals::Outcome::updated)
+        outcome = InvoiceTotals::updateInvoice(context, state.earlierInvoiceId);
+    if (outcome == InvoiceTotals::Outcome::tooLarge)
+        return false;
+    context.lastSaved.invoiceItem = item.id;
+    return transaction.commit() && outcome == InvoiceTotals::Outcome::updated;
 }
 
 } // namespace

@@ -99,9 +99,12 @@ bool savePayment(CommandContext &context, const ParameterList &words, SaveComman
     // The payment stays saved when the totals cannot be brought up to date, as when its invoice is gone.
     const int invoiceId = state.record.invoiceId;
     const bool moved = state.earlierInvoiceId >= 0 && state.earlierInvoiceId != invoiceId;
-    const bool updated = InvoiceTotals::updateInvoice(context, invoiceId) &&
-                         (!moved || InvoiceTotals::updateInvoice(context, state.earlierInvoiceId));
-    return transaction.commit() && updated;
+    InvoiceTotals::Outcome outcome = InvoiceTotals::updateInvoice(context, invoiceId);
+    if (moved && outcome == InvoiceTotals::Outcome::updated)
+        outcome = InvoiceTotals::updateInvoice(context, state.earlierInvoiceId);
+    if (outcome == InvoiceTotals::Outcome::tooLarge)
+        return false;
+    return transaction.commit() && outcome == InvoiceTotals::Outcome::updated;
 }
 
 struct Search {

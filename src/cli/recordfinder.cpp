@@ -28,25 +28,29 @@ bool RecordFinder::findByText(const QList<Record *> &list, const QString &text, 
                               Matches contains, Record *record, const Messages &messages)
 {
     const Record *exact = nullptr;
-    const Record *partial = nullptr;
     int exactCount = 0;
-    int partialCount = 0;
-    const QString lowerCase = text.toLower();
     for (const Record *candidate : list) {
         if (candidate->*field == text) {
             exact = candidate;
             ++exactCount;
-        } else if (contains(*candidate, lowerCase)) {
+        }
+    }
+    if (exactCount == 1) { // found without making every text lower case
+        *record = *exact;
+        return true;
+    }
+    const Record *partial = nullptr;
+    int partialCount = 0;
+    const QString lowerCase = text.toLower();
+    for (const Record *candidate : list) {
+        if (candidate->*field != text && contains(*candidate, lowerCase)) {
             partial = candidate;
             ++partialCount;
         }
     }
-    if (exactCount == 1)
-        *record = *exact;
-    else if (partialCount == 1)
-        *record = *partial;
-    else
+    if (partialCount != 1)
         return m_status.fail(ExitCode::badData, (partialCount == 0 ? messages.notFound : messages.several).arg(text));
+    *record = *partial;
     return true;
 }
 

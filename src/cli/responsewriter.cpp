@@ -1,6 +1,8 @@
 #include "responsewriter.h"
 
 #include "constants.h"
+#include "integer.h"
+#include "isodate.h"
 
 #include <QTextCodec>
 
@@ -15,19 +17,19 @@ constexpr int pieceSize = 32768;
 
 void appendEscaped(QString &target, const QString &text)
 {
-    target += QLatin1Char('"');
-    int start = 0;
-    for (int i = 0; i < text.size(); ++i) {
-        const ushort unit = text.at(i).unicode();
-        if (unit != '"' && unit != '\\' && unit != '\n' && unit != '\r')
-            continue;
-        target += text.midRef(start, i - start);
-        target += QLatin1Char('\\');
-        target += QLatin1Char(unit == '\n' ? 'n' : unit == '\r' ? 'r' : static_cast<char>(unit));
-        start = i + 1;
+    const int start = target.size();
+    target.resize(start + 2 * text.size() + 2); // as if all were escaped
+    QChar *end = target.data() + start;
+    *end++ = QLatin1Char('"');
+    for (const QChar c : text) {
+        const ushort unit = c.unicode();
+        const bool lineEnd = unit == '\n' || unit == '\r';
+        if (lineEnd || unit == '"' || unit == '\\')
+            *end++ = QLatin1Char('\\');
+        *end++ = lineEnd ? QLatin1Char(unit == '\n' ? 'n' : 'r') : c;
     }
-    target += start == 0 ? QStringRef(&text) : text.midRef(start);
-    target += QLatin1Char('"');
+    *end++ = QLatin1Char('"');
+    target.resize(static_cast<int>(end - target.constData()));
 }
 
 } // namespace
@@ -102,7 +104,11 @@ void ResponseWriter::printProperty(const char *name, const QString &value)
     appendJsonString(value);
 }
 
-void ResponseWriter::printProperty(const char *name, int value) { printRawProperty(name, QString::number(value)); }
+void ResponseWriter::printProperty(const char *name, int value)
+{
+    startProperty(name);
+    Integer::appendTo(m_buffer, value);
+}
 
 void ResponseWriter::printProperty(const char *name, bool value)
 {
@@ -114,7 +120,7 @@ void ResponseWriter::printProperty(const char *name, const QDate &value)
 {
     startProperty(name);
     m_buffer += QLatin1Char('"');
-    m_buffer += value.toString(Qt::ISODate); // empty for an invalid date
+    IsoDate::appendTo(m_buffer, value); // nothing for an invalid date
     m_buffer += QLatin1Char('"');
 }
 

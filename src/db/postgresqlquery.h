@@ -15,6 +15,8 @@ protected:
     QString refusal(const QVariant &value) const override;
     QString likeOperator() const override { return QStringLiteral("ILIKE"); }
     QString escapeClause() const override { return QStringLiteral(" ESCAPE E'\\\\'"); }
+    /** A prepared statement lives on the server, and is lost with the connection. */
+    bool keepsStatements() const override { return false; }
 
 private:
     /** The value that this connection drew last, whatever other clients do meanwhile; 0 on failure. */

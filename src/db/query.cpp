@@ -29,6 +29,16 @@ QString assignments(const char *columns)
     return QString::fromLatin1(columns).replace(QLatin1String(", "), QLatin1String("=?, ")) + QLatin1String("=?");
 }
 
+/** A command that is repeated line after line uses about ten. */
+constexpr int maxKeptStatements = 40;
+
+/** The columns of every fetch, joined once. */
+template <class Record> const QString &allColumns()
+{
+    static const QString columns = selectedColumns<Record>();
+    return columns;
+}
+
 template <class Record> QString updateStatement()
 {
     return QLatin1String("UPDATE ") + QLatin1String(TableColumns<Record>::table) + QLatin1String(" SET ") +
@@ -51,12 +61,33 @@ bool Query::execute(const QString &sql, const QVariantList &values)
         if (!m_refusal.isEmpty())
             return false;
     }
-    m_prepareFailed = !m_query.prepare(sql);
+    m_prepareFailed = !prepare(sql);
     if (m_prepareFailed)
         return false;
     for (int i = 0; i < values.size(); ++i)
         m_query.bindValue(i, values.at(i));
-    return m_query.exec();
+    if (m_query.exec())
+        return true;
+    m_statements.remove(sql);
+    return false;
+}
+
+bool Query::prepare(const QString &sql)
+{
+    m_query.finish(); // what was not read of the statement before must not keep its table locked
+    const auto kept = m_statements.constFind(sql);
+    if (kept != m_statements.constEnd()) {
+        m_query = *kept;
+        return true;
+    }
+    if (!m_query.prepare(sql))
+        return false;
+    if (keepsStatements()) {
+        if (m_statements.size() == maxKeptStatements) // texts that vary without end, with a search's criteria
+            m_statements.clear();
+        m_statements.insert(sql, m_query);
+    }
+    return true;
 }
 
 bool Query::isConnected()
@@ -77,16 +108,15 @@ int Query::firstInteger(const QString &sql, const QVariantList &values)
 
 template <class Record> bool Query::fetchAll(const char *order)
 {
-    return execute(
-        QStringLiteral("SELECT %1 FROM %2%3")
-            .arg(selectedColumns<Record>(), QLatin1String(TableColumns<Record>::table), QLatin1String(order)));
+    return execute(QStringLiteral("SELECT %1 FROM %2%3")
+                       .arg(allColumns<Record>(), QLatin1String(TableColumns<Record>::table), QLatin1String(order)));
 }
 
 template <class Record> bool Query::fetchWhere(const char *condition, int value, const char *rest)
 {
     return execute(QStringLiteral("SELECT %1 FROM %2 WHERE %3 = ?%4")
-                       .arg(selectedColumns<Record>(), QLatin1String(TableColumns<Record>::table),
-                            QLatin1String(condition), QLatin1String(rest)),
+                       .arg(allColumns<Record>(), QLatin1String(TableColumns<Record>::table), QLatin1String(condition),
+                            QLatin1String(rest)),
                    {value});
 }
 

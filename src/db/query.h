@@ -135,11 +135,14 @@ protected:
     virtual QString refusal(const QVariant &) const { return QString(); }
     virtual QString likeOperator() const { return QStringLiteral("LIKE"); }
     virtual QString escapeClause() const { return QStringLiteral(" ESCAPE '\\'"); }
+    /** Whether prepared statements are kept for the next time: most of a small statement's time is its preparation. */
+    virtual bool keepsStatements() const { return true; }
 
     QSqlQuery m_query;
 
 private:
     bool execute(const QString &sql, const QVariantList &values = {});
+    bool prepare(const QString &sql);
     int firstInteger(const QString &sql, const QVariantList &values = {});
     template <class Record> bool fetchAll(const char *order);
     template <class Record> bool fetchWhere(const char *condition, int value, const char *rest = "");
@@ -154,6 +157,7 @@ private:
     void appendInvoiceRestriction(const InvoiceCriteria *c, QString &sql, QList<QVariant> &params,
                                   bool hasConditions) const;
 
+    QHash<QString, QSqlQuery> m_statements; ///< the kept ones by their text; m_query is one of them
     bool m_prepareFailed = false;
     QString m_refusal;                                  ///< of a value of the last statement
     const InvoiceCriteria *m_invoiceCriteria = nullptr; ///< of the last invoice search, not owned

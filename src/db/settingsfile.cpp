@@ -46,6 +46,8 @@ std::unique_ptr<QSettings> SettingsFile::open(const QString &fileName)
     return settings;
 }
 
+void SettingsFile::makeFolder(const QString &fileName) { QDir().mkpath(QFileInfo(fileName).path()); }
+
 bool SettingsFile::createPrivate(const QString &fileName)
 {
     if (QFile::exists(fileName))

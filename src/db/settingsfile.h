@@ -19,6 +19,9 @@ namespace SettingsFile {
  */
 std::unique_ptr<QSettings> open(const QString &fileName);
 
+/** Makes the folder of the file with all folders above it. */
+void makeFolder(const QString &fileName);
+
 /** Creates the file, readable by its owner alone (it may come to hold a password), unless it exists. */
 bool createPrivate(const QString &fileName);
 

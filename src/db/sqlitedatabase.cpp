@@ -87,24 +87,23 @@ bool SQLiteDatabase::backupTo(const QString &filename)
     return fail(tr("Tiedostoa %1 ei voi kirjoittaa: %2").arg(filename, query.lastError().text().trimmed()));
 }
 
-/** @return the schema version, 0 without a settings row, -1 when it cannot be read */
-int SQLiteDatabase::storedVersion()
+/** @return the schema version, 0 without a settings row, nothing when it cannot be read */
+std::optional<int> SQLiteDatabase::storedVersion()
 {
     QSqlQuery query(connection(false));
     query.exec(QStringLiteral("SELECT version FROM settings"));
-    if (!query.isActive()) {
-        fail(query.lastError().text());
-        return -1;
-    }
-    return query.next() ? query.value(0).toInt() : 0;
+    if (query.isActive())
+        return query.next() ? query.value(0).toInt() : 0;
+    fail(query.lastError().text());
+    return std::nullopt;
 }
 
 bool SQLiteDatabase::upgrade(const QString &filename)
 {
-    int version = storedVersion();
-    if (version < 0)
+    std::optional<int> version = storedVersion();
+    if (!version)
         return fail(tr("Tietokantaa %1 ei voi lukea: %2").arg(filename, lastError()));
-    if (version < 1 || version >= schemaVersion)
+    if (*version < 1 || *version >= schemaVersion)
         return true;
     // One program at a time: two that run the same steps would write each other's version numbers. A lock of the
     // database itself would not outlive the copying of the file.
@@ -113,7 +112,7 @@ bool SQLiteDatabase::upgrade(const QString &filename)
     version = storedVersion();
     QSqlQuery query(connection(false));
     bool ok = true;
-    for (int from = version; from >= 1 && from < schemaVersion; ++from) {
+    for (int from = version.value_or(schemaVersion); from < schemaVersion; ++from) {
         backup(filename);
         ok = upgradeStep(query, from); // a failed step does not stop the later ones; the backups are there
     }

@@ -4,6 +4,7 @@
 #include "database.h"
 
 #include <memory>
+#include <optional>
 
 /** The embedded backend: one SQLite file, copied to a time-stamped backup beside it before every upgrade step. */
 class SQLiteDatabase : public Database {
@@ -33,7 +34,7 @@ protected:
 
 private:
     bool upgrade(const QString &filename);
-    int storedVersion();
+    std::optional<int> storedVersion();
     void backup(const QString &filename) const;
 
     std::unique_ptr<QSqlQuery> m_dataVersion; ///< prepared once, run before every use of a cached list

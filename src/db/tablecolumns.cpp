@@ -4,6 +4,7 @@
 #include "customer.h"
 #include "invoice.h"
 #include "invoiceitem.h"
+#include "isodate.h"
 #include "payment.h"
 #include "printscript.h"
 #include "product.h"
@@ -11,6 +12,8 @@
 
 #include <QSqlQuery>
 #include <QStringList>
+
+#include <utility>
 
 namespace {
 
@@ -26,7 +29,14 @@ public:
     RowReader &operator>>(long long &value) { return set(value, next().toLongLong()); }
     RowReader &operator>>(bool &value) { return set(value, next().toBool()); }
     RowReader &operator>>(QString &value) { return set(value, next().toString()); }
-    RowReader &operator>>(QDate &value) { return set(value, next().toDate()); }
+    RowReader &operator>>(QDate &value)
+    {
+        const QVariant column = next();
+        value = column.type() == QVariant::String ? IsoDate::parse(column.toString()) : QDate();
+        if (!value.isValid()) // a date already, as some backends give it, or text of another form
+            value = column.toDate();
+        return *this;
+    }
     RowReader &operator>>(QByteArray &value) { return set(value, next().toByteArray()); }
     RowReader &operator>>(PropertyMap &value)
     {
@@ -37,9 +47,9 @@ public:
     QVariant next() { return m_row.value(m_column++); }
 
 private:
-    template <class T> RowReader &set(T &target, const T &value)
+    template <class T> RowReader &set(T &target, T &&value)
     {
-        target = value;
+        target = std::move(value);
         return *this;
     }
 

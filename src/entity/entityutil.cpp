@@ -1,6 +1,6 @@
 #include "entityutil.h"
 
-#include <QStringList>
+#include <QVector>
 
 QString EntityUtil::escapeString(const QString &text)
 {
@@ -43,10 +43,10 @@ QString EntityUtil::propertiesToString(const QMap<QString, QVariant> &map)
 void EntityUtil::propertiesFromString(const QString &text, QMap<QString, QVariant> &map)
 {
     map.clear();
-    const QStringList lines = text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
-    for (const QString &line : lines) {
+    const QVector<QStringRef> lines = text.splitRef(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    for (const QStringRef &line : lines) {
         const int separator = line.indexOf(QLatin1Char('='));
         if (separator >= 0)
-            map.insert(line.left(separator), unescapeString(line.mid(separator + 1)));
+            map.insert(line.left(separator).toString(), unescapeString(line.mid(separator + 1).toString()));
     }
 }

@@ -2,6 +2,7 @@
 
 #include "integer.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 DecimalFormat::DecimalFormat(int fractionDigits, int minFractionDigits) : m_minFractionDigits(minFractionDigits)
@@ -12,9 +13,9 @@ DecimalFormat::DecimalFormat(int fractionDigits, int minFractionDigits) : m_minF
 
 void DecimalFormat::setFractionDigits(int digits)
 {
-    m_fractionDigits = digits;
+    m_fractionDigits = qMin(digits, maxFractionDigits);
     m_divisor = 1;
-    for (int i = 0; i < digits; ++i)
+    for (int i = 0; i < m_fractionDigits; ++i)
         m_divisor *= 10;
 }
 
@@ -26,9 +27,13 @@ void DecimalFormat::setLocale(const QLocale &locale)
 
 QString DecimalFormat::fraction(long long magnitude) const
 {
-    QString digits = QString::number(magnitude % m_divisor).rightJustified(m_fractionDigits, QLatin1Char('0'));
-    while (digits.size() > m_minFractionDigits && digits.endsWith(QLatin1Char('0')))
-        digits.chop(1);
+    long long rest = magnitude % m_divisor;
+    int size = std::max(m_fractionDigits, 1); // without fraction digits it is "0", which is cut like others
+    for (; size > m_minFractionDigits && rest % 10 == 0; --size)
+        rest /= 10;
+    QString digits(size, QLatin1Char('0'));
+    for (int i = size; rest > 0; rest /= 10)
+        digits[--i] = QLatin1Char(static_cast<char>('0' + rest % 10));
     return digits;
 }
 
@@ -45,11 +50,17 @@ QString DecimalFormat::format(long long value) const
 QString DecimalFormat::formatWithoutGrouping(long long value) const
 {
     const long long magnitude = std::llabs(value);
-    QString text = QString::number(magnitude / m_divisor);
+    QString text;
+    text.reserve(32); // enough for any value: large searches format several a record
     if (value < 0)
-        text.prepend(QLatin1Char('-'));
+        text += QLatin1Char('-');
+    Integer::appendTo(text, magnitude / m_divisor);
     const QString decimals = fraction(magnitude);
-    return decimals.isEmpty() ? text : text + m_decimalPoint + decimals;
+    if (!decimals.isEmpty()) {
+        text += m_decimalPoint;
+        text += decimals;
+    }
+    return text;
 }
 
 long long DecimalFormat::parse(const QString &text, bool &ok) const

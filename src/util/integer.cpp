@@ -1,6 +1,7 @@
 #include "integer.h"
 
 #include <algorithm>
+#include <charconv>
 #include <limits>
 
 namespace {
@@ -32,4 +33,11 @@ int Integer::parse(QStringView text, bool &ok)
         value = -value;
     ok = value >= std::numeric_limits<int>::min() && value <= std::numeric_limits<int>::max();
     return ok ? static_cast<int>(value) : 0;
+}
+
+void Integer::appendTo(QString &target, long long value)
+{
+    char digits[std::numeric_limits<long long>::digits10 + 3]; // a sign, and the digit that is not always there
+    const char *end = std::to_chars(digits, digits + sizeof digits, value).ptr;
+    target += QLatin1String(digits, static_cast<int>(end - digits));
 }

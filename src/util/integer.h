@@ -1,6 +1,7 @@
 #ifndef INTEGER_H
 #define INTEGER_H
 
+#include <QString>
 #include <QStringView>
 
 namespace Integer {
@@ -15,6 +16,9 @@ int parse(QStringView text, bool &ok);
 
 /** @return whether the text is not empty and consists of ASCII digits only. */
 bool isDigits(QStringView text);
+
+/** Appends the number as ASCII digits, a hyphen in front of a negative one. */
+void appendTo(QString &target, long long value);
 
 } // namespace Integer
 

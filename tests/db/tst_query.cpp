@@ -2,6 +2,7 @@
 #include "customer.h"
 #include "database.h"
 #include "invoice.h"
+#include "invoicecriteria.h"
 #include "invoiceitem.h"
 #include "payment.h"
 #include "printscript.h"
@@ -26,6 +27,7 @@ private slots:
     void idsBesideAnotherProgram();
     void transactions();
     void failures();
+    void repeatedStatements();
 
 private:
     template <class Record> QList<int> ids(bool fetched, void (Query::*read)(Record *) const)
@@ -205,6 +207,43 @@ void QueryTest::failures()
     }
     customer.contact = QString(100, QChar(0xE4));
     QVERIFY(m_query->saveCustomer(&customer)); // the connection goes on
+}
+
+/** A text that was executed before behaves as a new one does, whatever happened since. */
+void QueryTest::repeatedStatements()
+{
+    m_database->run("INSERT INTO customer (id, number, deleted) VALUES (1, 1, false), (2, 2, false), (3, 3, false)");
+    const auto customers = [this] { return ids(m_query->fetchCustomers(), &Query::customer); };
+    for (int i = 0; i < 2; ++i) { // left in the middle: the rows begin anew, and the table is free for others
+        QVERIFY(m_query->fetchCustomers() && m_query->next());
+        QCOMPARE(m_query->maxCustomerNumber(), 3);
+        m_database->run("UPDATE customer SET number = 3 WHERE id = 3");
+    }
+    QCOMPARE(customers(), QList<int>({1, 2, 3}));
+
+    m_database->run("CREATE TABLE other (id integer)"); // another schema
+    QCOMPARE(customers(), QList<int>({1, 2, 3}));
+    m_database->run("DROP TABLE other");
+    m_database->run("ALTER TABLE customer RENAME TO gone");
+    const QList<int> missing = customers();
+    const QString error = m_query->lastError();
+    m_database->run("ALTER TABLE gone RENAME TO customer");
+    QCOMPARE(missing, QList<int>());
+    QVERIFY(!error.isEmpty());
+    QCOMPARE(customers(), QList<int>({1, 2, 3}));
+    QCOMPARE(m_query->lastError(), QString());
+
+    m_database->run("INSERT INTO invoice (id, number) VALUES (1, 1), (2, 2), (3, 3)");
+    InvoiceCriteria criteria;
+    for (int limit = 1; limit <= 100; ++limit) { // more texts than are kept
+        criteria.limit = limit;
+        QCOMPARE(ids(m_query->fetchInvoiceDetails(&criteria), &Query::invoiceDetails).size(), qMin(limit, 3));
+    }
+    criteria.limit = 1;
+    for (const int number : {2, 3, 2}) { // the same text with other values
+        criteria.number = number;
+        QCOMPARE(ids(m_query->fetchInvoiceDetails(&criteria), &Query::invoiceDetails), QList<int>({number}));
+    }
 }
 
 QTEST_GUILESS_MAIN(QueryTest)

@@ -2,11 +2,14 @@
 
 #include <QtTest>
 
+#include <limits>
+
 class IntegerTest : public QObject {
     Q_OBJECT
 private slots:
     void parse_data();
     void parse();
+    void append();
 };
 
 void IntegerTest::parse_data()
@@ -57,6 +60,18 @@ void IntegerTest::parse()
     QTEST(Integer::parse(text, ok), "value");
     QTEST(ok, "accepted");
     QTEST(Integer::isDigits(text), "digits");
+}
+
+void IntegerTest::append()
+{
+    const long long least = std::numeric_limits<long long>::min();
+    const long long greatest = std::numeric_limits<long long>::max();
+    QString text = QStringLiteral("n=");
+    for (const long long value : {0LL, -1LL, 10LL, least, greatest}) {
+        Integer::appendTo(text, value);
+        text += QLatin1Char(' ');
+    }
+    QCOMPARE(text, QStringLiteral("n=0 -1 10 -9223372036854775808 9223372036854775807 "));
 }
 
 QTEST_APPLESS_MAIN(IntegerTest)
