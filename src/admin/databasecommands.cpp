@@ -139,6 +139,7 @@ bool createSQLiteDatabase(CommandContext &context, const QVariantMap &entry)
         return true;
     const int error = errno;
     QFile::remove(partName);
+    context.status.lastError.replace(partName, file); // the user knows the name that was asked for
     if (!created)
         return false;
     return context.status.fail(ExitCode::databaseFailure,

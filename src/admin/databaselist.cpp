@@ -2,9 +2,13 @@
 
 #include "settingsfile.h"
 
+#include <QElapsedTimer>
+#include <QThread>
+
 namespace {
 
-constexpr int lockWaitMs = 10000;
+constexpr int lockWaitMs = 30000;
+constexpr int lockStepMs = 20;
 
 } // namespace
 
@@ -13,7 +17,11 @@ DatabaseList::DatabaseList(const QString &settingsFile, Access access)
     if (access == writing) {
         SettingsFile::makeFolder(settingsFile);
         m_lock = std::make_unique<QLockFile>(settingsFile + QLatin1String(".list-lock"));
-        m_lock->tryLock(lockWaitMs); // isWritable() tells whether it worked
+        // Tried often: the library's own waiting grows to seconds. isWritable() tells whether it worked.
+        QElapsedTimer waited;
+        waited.start();
+        while (!m_lock->tryLock(0) && m_lock->error() == QLockFile::LockFailedError && waited.elapsed() < lockWaitMs)
+            QThread::msleep(lockStepMs);
     }
     m_settings = SettingsFile::open(settingsFile);
     read();

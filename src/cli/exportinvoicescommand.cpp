@@ -12,6 +12,8 @@
 #include "xmlscriptmodel.h"
 
 #include <QDir>
+#include <QFile>
+#include <QRegularExpression>
 #include <QVector>
 
 #include <limits>
@@ -171,6 +173,18 @@ bool printInvoices(CommandContext &context, const Request &request, InvoicePrint
     return writeInvoices<InvoicePrintModel>(context, request, all, manager, print, files);
 }
 
+/** A script that refuses an invoice before its first element leaves a document that is none. */
+void removeEmptyDocument(const QString &name)
+{
+    QFile file(name);
+    static const QRegularExpression element(QStringLiteral("<[A-Za-z]"));
+    const bool isEmpty =
+        file.open(QIODevice::ReadOnly) && !element.match(QString::fromLatin1(file.readAll())).hasMatch();
+    file.close();
+    if (isEmpty)
+        file.remove();
+}
+
 bool writeFinvoices(CommandContext &context, const Request &request, InvoicePrintModel &all,
                     QVector<ExportedFile> &files)
 {
@@ -181,7 +195,11 @@ bool writeFinvoices(CommandContext &context, const Request &request, InvoicePrin
     const bool loaded = ScriptLoader(&context.session.registry()).loadFinvoiceScript(&manager);
     if (!ExportTools::checkLoaded(context, manager, loaded))
         return false;
-    const auto write = [&](const QString &name, XmlScriptModel &model) { manager.write(name, false, &model); };
+    const auto write = [&](const QString &name, XmlScriptModel &model) {
+        manager.write(name, false, &model);
+        if (manager.hasException())
+            removeEmptyDocument(name);
+    };
     return writeInvoices<XmlScriptModel>(context, request, all, manager, write, files);
 }
 

@@ -15,6 +15,9 @@
 
 namespace {
 
+/** A list of any length is one document: 50,000 lines take ten seconds. */
+constexpr int listTimeLimitMs = 30 * ScriptRunner::timeLimitMs;
+
 struct ListExport;
 
 struct Request {
@@ -179,6 +182,7 @@ bool applyParameter(CommandContext &context, const QString &key, const QString &
 bool printList(CommandContext &context, const Request &request, PrintModel &model)
 {
     PrintScriptManager manager;
+    manager.script().setTimeLimit(listTimeLimitMs);
     const ScriptLoader loader(&context.session.registry());
     if (!ExportTools::checkLoaded(context, manager, (loader.*request.list.loadScript)(&manager)))
         return false;

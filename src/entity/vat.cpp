@@ -70,12 +70,12 @@ long long Vat::priceVatIncluded(long long price, int vatRate, bool vatExcluded)
     return vatExcluded ? roundWithSamePrecision(addVat(price, vatRate), price) : price;
 }
 
-void Vat::add(int amount, int vatRate)
+void Vat::add(long long amount, int vatRate)
 {
     m_amounts[vatRate] += amount;
     m_totalAmount += amount;
     if (m_roundingMode == roundPerRow) {
-        const int excluded = static_cast<int>(substractVat(amount, vatRate));
+        const long long excluded = substractVat(amount, vatRate);
         m_amountsVatExcluded[vatRate] += excluded;
         m_totalAmountVatExcluded += excluded;
     }
@@ -89,29 +89,29 @@ void Vat::clear()
     m_totalAmountVatExcluded = 0;
 }
 
-int Vat::totalAmountVatExcluded() const
+long long Vat::totalAmountVatExcluded() const
 {
     if (m_roundingMode == roundPerRow)
         return m_totalAmountVatExcluded;
-    int sum = 0;
+    long long sum = 0;
     for (auto it = m_amounts.cbegin(); it != m_amounts.cend(); ++it)
         sum += totalAmountVatExcluded(it.key());
     return sum;
 }
 
-int Vat::totalAmountVatExcluded(int vatRate) const
+long long Vat::totalAmountVatExcluded(int vatRate) const
 {
     if (m_roundingMode == roundPerRow)
         return m_amountsVatExcluded.value(vatRate);
-    return static_cast<int>(substractVat(m_amounts.value(vatRate), vatRate));
+    return substractVat(m_amounts.value(vatRate), vatRate);
 }
 
-int Vat::totalVatAmount() const
+long long Vat::totalVatAmount() const
 {
-    int sum = 0;
+    long long sum = 0;
     for (auto it = m_amounts.cbegin(); it != m_amounts.cend(); ++it)
         sum += totalVatAmount(it.key());
     return sum;
 }
 
-int Vat::totalVatAmount(int vatRate) const { return totalAmount(vatRate) - totalAmountVatExcluded(vatRate); }
+long long Vat::totalVatAmount(int vatRate) const { return totalAmount(vatRate) - totalAmountVatExcluded(vatRate); }

@@ -43,7 +43,7 @@ public:
     int roundingMode() const { return m_roundingMode; }
 
     /** @param amount  a row's total with VAT, cents */
-    void add(int amount, int vatRate);
+    void add(long long amount, int vatRate);
     /** Forgets the sums; the rounding mode stays. */
     void clear();
 
@@ -51,18 +51,18 @@ public:
     QList<int> vatRates() const { return m_amounts.keys(); } ///< ascending
 
     // Cents, in total or of one rate (0 for a rate never added).
-    int totalAmount() const { return m_totalAmount; }
-    int totalAmount(int vatRate) const { return m_amounts.value(vatRate); }
-    int totalAmountVatExcluded() const;
-    int totalAmountVatExcluded(int vatRate) const;
-    int totalVatAmount() const;
-    int totalVatAmount(int vatRate) const;
+    long long totalAmount() const { return m_totalAmount; }
+    long long totalAmount(int vatRate) const { return m_amounts.value(vatRate); }
+    long long totalAmountVatExcluded() const;
+    long long totalAmountVatExcluded(int vatRate) const;
+    long long totalVatAmount() const;
+    long long totalVatAmount(int vatRate) const;
 
 private:
-    QMap<int, int> m_amounts;
-    QMap<int, int> m_amountsVatExcluded; ///< roundPerRow only
-    int m_totalAmount = 0;
-    int m_totalAmountVatExcluded = 0; ///< roundPerRow only
+    QMap<int, long long> m_amounts;            ///< 64 bits: a list's sums go beyond those of an invoice
+    QMap<int, long long> m_amountsVatExcluded; ///< roundPerRow only
+    long long m_totalAmount = 0;
+    long long m_totalAmountVatExcluded = 0; ///< roundPerRow only
     int m_roundingMode = roundPerRate;
 };
 

@@ -30,17 +30,11 @@ bool CsvExport::save(const QString &fileName, const QString &delimiter, QString 
     return ok;
 }
 
-QString CsvExport::price(long long amount) const
-{
-    return m_priceFormat.formatWithoutGrouping(static_cast<int>(amount));
-}
+QString CsvExport::price(long long amount) const { return m_priceFormat.formatWithoutGrouping(amount); }
 
-QString CsvExport::sum(long long cents) const { return m_sumFormat.formatWithoutGrouping(static_cast<int>(cents)); }
+QString CsvExport::sum(long long cents) const { return m_sumFormat.formatWithoutGrouping(cents); }
 
-QString CsvExport::quantity(long long amount) const
-{
-    return m_quantityFormat.formatWithoutGrouping(static_cast<int>(amount));
-}
+QString CsvExport::quantity(long long amount) const { return m_quantityFormat.formatWithoutGrouping(amount); }
 
 QString CsvExport::percentage(int hundredths) const { return m_percentageFormat.formatWithoutGrouping(hundredths); }
 

@@ -30,7 +30,6 @@ public:
     void field(const QString &value) { m_csv.writeField(value); }
     void endLine() { m_csv.writeLine(); }
 
-    // Numbers are narrowed to 32 bits.
     QString price(long long amount) const; ///< four decimals
     QString sum(long long cents) const;
     QString quantity(long long amount) const; ///< four decimals

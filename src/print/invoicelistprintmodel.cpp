@@ -121,10 +121,10 @@ const Key<const Model &> topKeys[] = {
     {"invoices", invoicesValue},
     {"vat", [](const Model &m, QStringList &rest) { return InvoicePaths::vat(m.vat(), rest); }},
     {"totalAmountVatExcluded",
-     [](const Model &m, QStringList &) { return QVariant(m.vat().totalAmountVatExcluded()); }},
-    {"totalVatAmount", [](const Model &m, QStringList &) { return QVariant(m.vat().totalVatAmount()); }},
-    {"totalAmount", [](const Model &m, QStringList &) { return QVariant(m.vat().totalAmount()); }},
-    {"totalBalance", [](const Model &m, QStringList &) { return QVariant(m.totalBalance()); }},
+     [](const Model &m, QStringList &) { return ValuePath::number(m.vat().totalAmountVatExcluded()); }},
+    {"totalVatAmount", [](const Model &m, QStringList &) { return ValuePath::number(m.vat().totalVatAmount()); }},
+    {"totalAmount", [](const Model &m, QStringList &) { return ValuePath::number(m.vat().totalAmount()); }},
+    {"totalBalance", [](const Model &m, QStringList &) { return ValuePath::number(m.totalBalance()); }},
     {"name", [](const Model &m, QStringList &) { return QVariant(m.registry().settings()->sellerName); }},
     {"criteria", [](const Model &m, QStringList &rest) { return ListPaths::texts(m.criteriaStrings(), rest); }},
     {"columns",
@@ -185,7 +185,7 @@ bool InvoiceListPrintModel::addRows(Query &query)
     while (query.next()) {
         query.invoiceItem(&item);
         if (Entry *entry = entries.value(item.invoiceId)) {
-            const int total = static_cast<int>(item.totalAmountVatIncluded());
+            const long long total = item.totalAmountVatIncluded();
             entry->vat.add(total, item.vatRate);
             m_vat.add(total, item.vatRate);
         }
@@ -207,12 +207,12 @@ void InvoiceListPrintModel::sort(int order)
                      [this, comparator](const Entry &a, const Entry &b) { return comparator(*this, a, b); });
 }
 
-int InvoiceListPrintModel::totalBalance() const
+long long InvoiceListPrintModel::totalBalance() const
 {
     long long sum = 0;
     for (const Entry &entry : m_entries)
         sum += entry.invoice.balance;
-    return static_cast<int>(sum);
+    return sum;
 }
 
 const Customer *InvoiceListPrintModel::customer(const Entry &entry) const

@@ -66,7 +66,7 @@ public:
 
     const QVector<Entry> &entries() const { return m_entries; }
     const Vat &vat() const { return m_vat; } ///< of all rows of all entries
-    int totalBalance() const;
+    long long totalBalance() const;
     const Customer *customer(const Entry &entry) const; ///< null when the registry does not know it
     const Registry &registry() const { return *m_registry; }
     const QStringList &criteriaStrings() const { return m_criteriaStrings; }

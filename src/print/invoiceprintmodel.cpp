@@ -90,7 +90,7 @@ const Vat &InvoicePrintModel::vat(const Invoice &invoice) const
     if (m_vatInvoice != &invoice) {
         m_vat.clear();
         for (const InvoiceItem &item : items(invoice))
-            m_vat.add(static_cast<int>(item.totalAmountVatIncluded()), item.vatRate);
+            m_vat.add(item.totalAmountVatIncluded(), item.vatRate);
         m_vatInvoice = &invoice;
     }
     return m_vat;

@@ -116,8 +116,8 @@ constexpr const char *columnNames[] = {"number",       "date",        "dueDate",
 
 const Key<const Model &> topKeys[] = {
     {"payments", paymentsValue},
-    {"totalAmount", [](const Model &m, QStringList &) { return QVariant(m.totalAmount()); }},
-    {"totalPaymentAmount", [](const Model &m, QStringList &) { return QVariant(m.totalPaymentAmount()); }},
+    {"totalAmount", [](const Model &m, QStringList &) { return ValuePath::number(m.totalAmount()); }},
+    {"totalPaymentAmount", [](const Model &m, QStringList &) { return ValuePath::number(m.totalPaymentAmount()); }},
     {"name", [](const Model &m, QStringList &) { return QVariant(m.registry().settings()->sellerName); }},
     {"criteria", [](const Model &m, QStringList &rest) { return ListPaths::texts(m.criteriaStrings(), rest); }},
     {"columns",
@@ -175,7 +175,7 @@ int PaymentPrintModel::invoiceType(int invoiceId) const
     return m_invoiceTypes->value(invoiceId);
 }
 
-int PaymentPrintModel::totalAmount() const
+long long PaymentPrintModel::totalAmount() const
 {
     long long sum = 0;
     QSet<int> counted;
@@ -184,15 +184,15 @@ int PaymentPrintModel::totalAmount() const
             sum += entry.invoice.totalAmount;
         counted.insert(entry.invoice.id);
     }
-    return static_cast<int>(sum);
+    return sum;
 }
 
-int PaymentPrintModel::totalPaymentAmount() const
+long long PaymentPrintModel::totalPaymentAmount() const
 {
     long long sum = 0;
     for (const Entry &entry : m_entries)
         sum += entry.payment.amount;
-    return static_cast<int>(sum);
+    return sum;
 }
 
 const Customer *PaymentPrintModel::customer(const Entry &entry) const

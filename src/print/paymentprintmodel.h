@@ -72,8 +72,8 @@ public:
 
     const QVector<Entry> &entries() const { return m_entries; }
     int invoiceType(int invoiceId) const;
-    int totalAmount() const;        ///< cents; an invoice with several payments counts once
-    int totalPaymentAmount() const; ///< cents
+    long long totalAmount() const;        ///< cents; an invoice with several payments counts once
+    long long totalPaymentAmount() const; ///< cents
     // Null when the registry does not know it.
     const Customer *customer(const Entry &entry) const;
     const BankAccount *bankAccount(const Entry &entry) const;

@@ -14,6 +14,7 @@ namespace {
 
 constexpr double inchesPerMillimetre = 0.0393700787;
 constexpr double millimetresPerInch = 25.4;
+constexpr double farthest = 1e9; ///< pixels; so far that sums of two fit 32 bits
 constexpr double unboundedHeight = std::numeric_limits<int>::max();
 
 struct AlignmentName {
@@ -77,7 +78,8 @@ PrintScriptEnvironment::PrintScriptEnvironment(PrintModel *model, QPrinter *prin
 
 int PrintScriptEnvironment::toPixels(double millimetres) const
 {
-    return qRound(millimetres * inchesPerMillimetre * m_resolution);
+    const double pixels = millimetres * inchesPerMillimetre * m_resolution;
+    return qRound(qBound(-farthest, pixels, farthest)); // what is no number at all, too, becomes one
 }
 
 QRect PrintScriptEnvironment::toPixels(double x, double y, double w, double h) const
@@ -97,16 +99,13 @@ QVariantList PrintScriptEnvironment::toHundredths(const QRect &rect) const
 
 QVariant PrintScriptEnvironment::get(const QString &path) { return m_model->value(path); }
 
-QString PrintScriptEnvironment::formatCurrency(qlonglong amount)
-{
-    return m_currencyFormat.format(static_cast<int>(amount));
-}
+QString PrintScriptEnvironment::formatCurrency(qlonglong amount) { return m_currencyFormat.format(amount); }
 
 QString PrintScriptEnvironment::formatNumber(qlonglong number, int scale, int minFractionDigits)
 {
     m_numberFormat.setFractionDigits(scale);
     m_numberFormat.setMinFractionDigits(minFractionDigits);
-    return m_numberFormat.format(static_cast<int>(number));
+    return m_numberFormat.format(number);
 }
 
 QString PrintScriptEnvironment::formatDate(const QDate &date, const QString &format) { return date.toString(format); }

@@ -53,7 +53,10 @@ public:
      * @param setPaperSize      whether paperSize() is set on the printer; orientation() always is
      */
     void print(QPrinter *printer, PrintModel *model, int fromPage, int toPage, bool setPaperSize);
-    /** Why the last print() left no document in the printer's file; empty when it did. */
+    /**
+     * Why the last print() left no document in the printer's file; empty when it did. The printer is then of no more
+     * use: the library goes on failing.
+     */
     QString lastError() const { return m_lastError; }
     /** Prints all pages of model(); nothing without a model. */
     Q_INVOKABLE void print(QPrinter *printer);

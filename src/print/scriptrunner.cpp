@@ -65,7 +65,9 @@ int ScriptRunner::callForNumber(const char *function, int defaultNumber)
     if (!m_engine || !m_engine->globalObject().property(name).isFunction())
         return defaultNumber;
     const QScriptValue result = evaluate(QScriptProgram(name + QLatin1String("()")));
-    return result.isNumber() ? result.toInt32() : defaultNumber;
+    const bool isNumber = !hasException() && result.isNumber(); // else it would be what was thrown
+    clearExceptions();
+    return isNumber ? result.toInt32() : defaultNumber;
 }
 
 /** Only what runs inside evaluate() can be aborted: a QScriptValue::call() cannot. */

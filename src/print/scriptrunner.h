@@ -28,7 +28,7 @@ public:
      */
     ScriptRunner(const char *prelude, const char *entryPoint);
 
-    /** For tests. */
+    /** For documents that may take longer, and for tests. */
     void setTimeLimit(int milliseconds) { m_timeLimitMs = milliseconds; }
 
     /** Loads a UTF-8 file. @return false, with nothing loaded, when it cannot be opened */
@@ -48,7 +48,7 @@ public:
      */
     void run(QObject *environment);
 
-    /** The number that a global function of the script returns; the default when it returns or is none. */
+    /** The number that a global function of the script returns; the default when there is none, or an exception. */
     int callForNumber(const char *function, int defaultNumber);
 
     /** Null until a script is loaded. */

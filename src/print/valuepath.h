@@ -6,6 +6,8 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <limits>
+
 /**
  * Resolves value paths against tables: one row per key. A level takes its element off the front of the path and hands
  * the rest down; elements behind a scalar key are ignored.
@@ -17,6 +19,13 @@ template <class... Context> struct Key {
     const char *key;
     QVariant (*value)(Context... context, QStringList &rest);
 };
+
+/** An int, as scripts have it; what is beyond 32 bits keeps its value. */
+inline QVariant number(long long value)
+{
+    const bool fits = value >= std::numeric_limits<int>::min() && value <= std::numeric_limits<int>::max();
+    return fits ? QVariant(static_cast<int>(value)) : QVariant(value);
+}
 
 /** The value of a public field, for a table whose context ends with the record. */
 template <auto member, class Record> QVariant field(const Record &record, QStringList &)

@@ -13,9 +13,9 @@ DecimalFormat::DecimalFormat(int fractionDigits, int minFractionDigits) : m_minF
 
 void DecimalFormat::setFractionDigits(int digits)
 {
-    m_fractionDigits = digits;
+    m_fractionDigits = qMin(digits, maxFractionDigits);
     m_divisor = 1;
-    for (int i = 0; i < digits; ++i)
+    for (int i = 0; i < m_fractionDigits; ++i)
         m_divisor *= 10;
 }
 

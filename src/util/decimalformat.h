@@ -12,6 +12,9 @@ class DecimalFormat {
 public:
     explicit DecimalFormat(int fractionDigits = 0, int minFractionDigits = 0);
 
+    /** The most decimals that a 32-bit scale holds; scripts may ask for more. */
+    static constexpr int maxFractionDigits = 9;
+
     int fractionDigits() const { return m_fractionDigits; }
     void setFractionDigits(int digits);
     int minFractionDigits() const { return m_minFractionDigits; }

@@ -30,6 +30,7 @@ private slots:
     void xmlModel_data();
     void xmlModel();
     void csv();
+    void csvOfLargePrice();
     void csvFailures();
     void queryFailure();
 
@@ -520,6 +521,17 @@ void InvoicePrintModelTest::csv()
     for (QString &line : expected)
         line.replace('~', QLocale::system().decimalPoint());
     QCOMPARE(lines, expected);
+}
+
+/** Four decimals of three million do not fit 32 bits. */
+void InvoicePrintModelTest::csvOfLargePrice()
+{
+    m_data.addRow(m_data.add(m_invoice), 300000000, 0);
+    InvoicePrintModel model(m_data.registry());
+    QVERIFY(model.run());
+    const QString sum = "3000000" + QString(QLocale::system().decimalPoint()) + "00";
+    QCOMPARE(csvLines(model, m_data.filePath("a.csv")).at(3),
+             QStringLiteral("0;;;;1;;%1;%1;0;%2;%1").arg(sum, "0" + sum.mid(7)));
 }
 
 void InvoicePrintModelTest::csvFailures()
