@@ -11,6 +11,7 @@
 #include "query.h"
 #include "readtransaction.h"
 #include "recordprinter.h"
+#include "searchcommand.h"
 #include "settings.h"
 #include "templatestringhelper.h"
 #include "writetransaction.h"
@@ -255,49 +256,38 @@ void findInvoices(CommandContext &context, const Search &search)
         for (const Payment &payment : payments.value(invoice.id))
             RecordPrinter::printPayment(context.response, payment);
     }
-    if (query->hasReadError()) {
-        context.response.abandonResponse();
-        context.session.failQuery();
-        return;
-    }
-    context.response.endResponse();
+    endFound(context);
 }
 
-/** A search that was given keys which restrict nothing (a negative number does not) is no order to remove everything.
- */
-bool checkRestricts(CommandContext &context, const Search &search, bool hasKeys)
-{
-    QString sql;
-    QVariantList params;
-    const bool restricts = context.session.query()->buildInvoiceWhereClause(&search.criteria, sql, params, QString(),
-                                                                            QStringLiteral(" WHERE "));
-    return restricts || !hasKeys ||
-           context.status.fail(ExitCode::badData, CommandContext::tr("Hakuehdot eivät rajaa poistettavia laskuja"));
-}
+struct InvoiceSearch {
+    using Search = ::Search;
+    static constexpr auto parse = parseSearch;
+    static constexpr auto find = findInvoices;
 
-/** @return the number of invoices removed, -1 on failure */
-int removeInvoices(CommandContext &context, const Search &search)
-{
-    WriteTransaction transaction(context.session);
-    if (!transaction.hasBegun())
-        return -1;
-    Query *query = context.session.query();
-    bool ok = query->fetchInvoiceDetails(&search.criteria);
-    QVector<int> ids;
-    while (ok && query->nextInvoice()) {
-        Invoice invoice;
-        query->invoiceDetails(&invoice);
-        ids.append(invoice.id);
+    static bool restricts(const Query &query, const Search &search)
+    {
+        QString sql;
+        QVariantList params;
+        return query.buildInvoiceWhereClause(&search.criteria, sql, params, QString(), QStringLiteral(" WHERE "));
     }
-    ok = ok && !query->hasReadError();
-    for (const int id : qAsConst(ids))
-        ok = ok && query->deleteInvoiceItems(id) && query->deletePayments(id) && query->deleteInvoice(id);
-    if (!ok) {
-        context.session.failQuery();
-        return -1;
+
+    static bool readIds(Query &query, const Search &search, QVector<int> &ids)
+    {
+        if (!query.fetchInvoiceDetails(&search.criteria))
+            return false;
+        while (query.nextInvoice()) {
+            Invoice invoice;
+            query.invoiceDetails(&invoice);
+            ids.append(invoice.id);
+        }
+        return true;
     }
-    return transaction.commit() ? ids.size() : -1;
-}
+
+    static bool remove(Query &query, int id)
+    {
+        return query.deleteInvoiceItems(id) && query.deletePayments(id) && query.deleteInvoice(id);
+    }
+};
 
 } // namespace
 
@@ -316,22 +306,5 @@ void parseSaveInvoiceCommand(CommandContext &context, QStringList &args, SaveCom
 
 void parseFindInvoicesCommand(CommandContext &context, QStringList &args, FindCommandMode mode)
 {
-    if (!context.session.ensureOpen())
-        return;
-    Search search;
-    const ParameterList words = parseParameters(args);
-    if (!parseSearch(context, words, search))
-        return;
-    if (mode == FindCommandMode::find) {
-        findInvoices(context, search);
-        return;
-    }
-    if (!checkRestricts(context, search, !words.isEmpty()))
-        return;
-    const int count = removeInvoices(context, search);
-    if (count < 0)
-        return;
-    context.response.startResponse(QStringLiteral("OK"));
-    context.response.printNumRemoved(count);
-    context.response.endResponse();
+    runSearchCommand<InvoiceSearch>(context, args, mode);
 }

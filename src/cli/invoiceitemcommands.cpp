@@ -3,6 +3,7 @@
 #include "constants.h"
 #include "invoice.h"
 #include "invoiceitem.h"
+#include "invoicelookup.h"
 #include "invoicetotals.h"
 #include "parametertable.h"
 #include "product.h"
@@ -22,29 +23,6 @@ struct State {
     bool hasInvoice = false;
     bool hasProduct = false;
 };
-
-bool useInvoice(State &state, const Invoice &invoice)
-{
-    state.record.invoiceId = invoice.id;
-    state.hasInvoice = true;
-    return true;
-}
-
-bool invoiceById(CommandContext &context, const QString &key, const QString &value, State &state)
-{
-    int id = 0;
-    Invoice invoice;
-    return context.values.parseIdValue(key, value, context.lastSaved.invoice, id) &&
-           context.finder.findInvoiceById(id, &invoice) && useInvoice(state, invoice);
-}
-
-bool invoiceByNumber(CommandContext &context, const QString &key, const QString &value, State &state)
-{
-    int number = 0;
-    Invoice invoice;
-    return context.values.parseIntValue(key, value, number) && context.finder.findInvoiceByNumber(number, &invoice) &&
-           useInvoice(state, invoice);
-}
 
 bool useProduct(State &state, const Product &product)
 {
@@ -91,8 +69,8 @@ constexpr Parameter<State> parameters[] = {
     {"amountVatIncluded", price<&InvoiceItem::setAmountVatIncluded>},
     {"amountVatExcluded", price<&InvoiceItem::setAmountVatExcluded>},
     {"discount", Parameters::decimal<&InvoiceItem::discount, Constants::percentageFractionDigits>},
-    {"findInvoiceById", invoiceById},
-    {"findInvoiceByNumber", invoiceByNumber},
+    {"findInvoiceById", InvoiceLookup::byId},
+    {"findInvoiceByNumber", InvoiceLookup::byNumber},
     {"findProductById", productById},
     {"findProductByNumber", productByNumber},
     {"findInvoiceItemById", findById, true},
@@ -134,10 +112,8 @@ bool saveInvoiceItem(CommandContext &context, const ParameterList &words, SaveCo
     if (!query->saveInvoiceItem(&item))
         return context.session.failQuery();
     // The row stays saved when the totals cannot be brought up to date, as when its invoice is gone.
-    const bool moved = state.earlierInvoiceId >= 0 && state.earlierInvoiceId != item.invoiceId;
-    InvoiceTotals::Outcome outcome = InvoiceTotals::updateInvoice(context, item.invoiceId);
-    if (moved && outcome == InvoiceTotals::Outcome::updated)
-        outcome = InvoiceTotals::updateInvoice(context, state.earlierInvoiceId);
+    const InvoiceTotals::Outcome outcome =
+        InvoiceTotals::updateInvoices(context, item.invoiceId, state.earlierInvoiceId);
     if (outcome == InvoiceTotals::Outcome::tooLarge)
         return false;
     context.lastSaved.invoiceItem = item.id;

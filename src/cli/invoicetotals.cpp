@@ -61,3 +61,10 @@ InvoiceTotals::Outcome InvoiceTotals::updateInvoice(CommandContext &context, int
     context.diagnostics.printDebugMessage(CommandContext::tr("Tallennetaan laskun %1 tiedot").arg(invoice.number));
     return query->saveInvoice(&invoice) ? Outcome::updated : failQuery(context);
 }
+
+InvoiceTotals::Outcome InvoiceTotals::updateInvoices(CommandContext &context, int invoiceId, int earlierInvoiceId)
+{
+    const Outcome outcome = updateInvoice(context, invoiceId);
+    const bool moved = earlierInvoiceId >= 0 && earlierInvoiceId != invoiceId;
+    return moved && outcome == Outcome::updated ? updateInvoice(context, earlierInvoiceId) : outcome;
+}

@@ -15,6 +15,12 @@ enum class Outcome {
 /** Recomputes and saves the total and the balance; a failure is in the status, with nothing changed. */
 [[nodiscard]] Outcome updateInvoice(CommandContext &context, int invoiceId);
 
+/**
+ * The same for the invoice of a saved row or payment, and for the one that it was moved away from.
+ * @param earlierInvoiceId  -1 for a new record; may be the same
+ */
+[[nodiscard]] Outcome updateInvoices(CommandContext &context, int invoiceId, int earlierInvoiceId);
+
 } // namespace InvoiceTotals
 
 #endif

@@ -4,12 +4,14 @@
 #include "constants.h"
 #include "invoice.h"
 #include "invoicecriteria.h"
+#include "invoicelookup.h"
 #include "invoicetotals.h"
 #include "parametertable.h"
 #include "payment.h"
 #include "paymentcriteria.h"
 #include "query.h"
 #include "recordprinter.h"
+#include "searchcommand.h"
 #include "writetransaction.h"
 
 #include <QVector>
@@ -22,29 +24,6 @@ struct State {
     bool found = false;
     bool hasInvoice = false;
 };
-
-bool useInvoice(State &state, const Invoice &invoice)
-{
-    state.record.invoiceId = invoice.id;
-    state.hasInvoice = true;
-    return true;
-}
-
-bool invoiceById(CommandContext &context, const QString &key, const QString &value, State &state)
-{
-    int id = 0;
-    Invoice invoice;
-    return context.values.parseIdValue(key, value, context.lastSaved.invoice, id) &&
-           context.finder.findInvoiceById(id, &invoice) && useInvoice(state, invoice);
-}
-
-bool invoiceByNumber(CommandContext &context, const QString &key, const QString &value, State &state)
-{
-    int number = 0;
-    Invoice invoice;
-    return context.values.parseIntValue(key, value, number) && context.finder.findInvoiceByNumber(number, &invoice) &&
-           useInvoice(state, invoice);
-}
 
 bool bankAccountById(CommandContext &context, const QString &key, const QString &value, State &state)
 {
@@ -77,8 +56,8 @@ bool findById(CommandContext &context, const QString &key, const QString &value,
 constexpr Parameter<State> parameters[] = {
     {"date", Parameters::date<&Payment::date>},
     {"amount", Parameters::decimal<&Payment::amount, Constants::totalAmountFractionDigits>},
-    {"findInvoiceById", invoiceById},
-    {"findInvoiceByNumber", invoiceByNumber},
+    {"findInvoiceById", InvoiceLookup::byId},
+    {"findInvoiceByNumber", InvoiceLookup::byNumber},
     {"findBankAccountById", bankAccountById},
     {"findBankAccountByName", bankAccountByName},
     {"findByPaymentId", findById, true},
@@ -98,10 +77,7 @@ bool savePayment(CommandContext &context, const ParameterList &words, SaveComman
         return context.session.failQuery();
     // The payment stays saved when the totals cannot be brought up to date, as when its invoice is gone.
     const int invoiceId = state.record.invoiceId;
-    const bool moved = state.earlierInvoiceId >= 0 && state.earlierInvoiceId != invoiceId;
-    InvoiceTotals::Outcome outcome = InvoiceTotals::updateInvoice(context, invoiceId);
-    if (moved && outcome == InvoiceTotals::Outcome::updated)
-        outcome = InvoiceTotals::updateInvoice(context, state.earlierInvoiceId);
+    const InvoiceTotals::Outcome outcome = InvoiceTotals::updateInvoices(context, invoiceId, state.earlierInvoiceId);
     if (outcome == InvoiceTotals::Outcome::tooLarge)
         return false;
     return transaction.commit() && outcome == InvoiceTotals::Outcome::updated;
@@ -139,51 +115,38 @@ void findPayments(CommandContext &context, const Search &search)
         query->payment(&payment);
         RecordPrinter::printPayment(context.response, payment);
     }
-    if (query->hasReadError()) {
-        context.response.abandonResponse();
-        context.session.failQuery();
-        return;
-    }
-    context.response.endResponse();
+    endFound(context);
 }
 
-/** A search that was given keys which restrict nothing (a negative number does not) is no order to remove everything.
- */
-bool checkRestricts(CommandContext &context, const Search &search, bool hasKeys)
-{
-    QString sql;
-    QVariantList params;
-    const Query *query = context.session.query();
-    const QString keyword = QStringLiteral(" WHERE ");
-    const bool restricts = query->buildPaymentWhereClause(&search.payments, nullptr, sql, params, QString(), keyword) ||
-                           query->buildInvoiceWhereClause(&search.invoices, sql, params, QString(), keyword);
-    return restricts || !hasKeys ||
-           context.status.fail(ExitCode::badData, CommandContext::tr("Hakuehdot eivät rajaa poistettavia suorituksia"));
-}
+/** The balances of the invoices stay as they are when payments are removed. */
+struct PaymentSearch {
+    using Search = ::Search;
+    static constexpr auto parse = parseSearch;
+    static constexpr auto find = findPayments;
 
-/** The balances of the invoices stay as they are. @return the number of payments removed, -1 on failure */
-int removePayments(CommandContext &context, const Search &search)
-{
-    WriteTransaction transaction(context.session);
-    if (!transaction.hasBegun())
-        return -1;
-    Query *query = context.session.query();
-    bool ok = query->fetchPayments(&search.payments, &search.invoices);
-    QVector<int> ids;
-    while (ok && query->next()) {
-        Payment payment;
-        query->payment(&payment);
-        ids.append(payment.id);
+    static bool restricts(const Query &query, const Search &search)
+    {
+        QString sql;
+        QVariantList params;
+        const QString keyword = QStringLiteral(" WHERE ");
+        return query.buildPaymentWhereClause(&search.payments, nullptr, sql, params, QString(), keyword) ||
+               query.buildInvoiceWhereClause(&search.invoices, sql, params, QString(), keyword);
     }
-    ok = ok && !query->hasReadError();
-    for (const int id : qAsConst(ids))
-        ok = ok && query->deletePayment(id);
-    if (!ok) {
-        context.session.failQuery();
-        return -1;
+
+    static bool readIds(Query &query, const Search &search, QVector<int> &ids)
+    {
+        if (!query.fetchPayments(&search.payments, &search.invoices))
+            return false;
+        while (query.next()) {
+            Payment payment;
+            query.payment(&payment);
+            ids.append(payment.id);
+        }
+        return true;
     }
-    return transaction.commit() ? ids.size() : -1;
-}
+
+    static bool remove(Query &query, int id) { return query.deletePayment(id); }
+};
 
 } // namespace
 
@@ -202,22 +165,5 @@ void parseSavePaymentCommand(CommandContext &context, QStringList &args, SaveCom
 
 void parseFindPaymentsCommand(CommandContext &context, QStringList &args, FindCommandMode mode)
 {
-    if (!context.session.ensureOpen())
-        return;
-    Search search;
-    const ParameterList words = parseParameters(args);
-    if (!parseSearch(context, words, search))
-        return;
-    if (mode == FindCommandMode::find) {
-        findPayments(context, search);
-        return;
-    }
-    if (!checkRestricts(context, search, !words.isEmpty()))
-        return;
-    const int count = removePayments(context, search);
-    if (count < 0)
-        return;
-    context.response.startResponse(QStringLiteral("OK"));
-    context.response.printNumRemoved(count);
-    context.response.endResponse();
+    runSearchCommand<PaymentSearch>(context, args, mode);
 }
