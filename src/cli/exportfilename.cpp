@@ -54,5 +54,8 @@ QString ExportFileName::make(const QString &form, const Invoice &invoice, const 
     }
     const QString name = steps.join(QLatin1Char('/'));
     const QFileInfo info(name);
-    return info.isFile() ? TemplateStringHelper::addSuffixToFilename(info).filePath() : name;
+    if (!info.isFile())
+        return name;
+    const QFileInfo suffixed = TemplateStringHelper::addSuffixToFilename(info);
+    return steps.size() > 1 ? suffixed.filePath() : suffixed.fileName(); // without a "./" that nobody wrote
 }

@@ -19,7 +19,10 @@ template <class Host> bool checkLoaded(CommandContext &context, const Host &host
 {
     if (!loaded)
         return context.status.fail(ExitCode::databaseFailure, CommandContext::tr("Tulostuspohjaa ei voi lukea"));
-    return !host.hasException() || context.status.fail(ExitCode::badData, exceptionText(host));
+    if (host.hasException())
+        return context.status.fail(ExitCode::badData, exceptionText(host));
+    return host.isRunnable() ||
+           context.status.fail(ExitCode::badData, CommandContext::tr("Tulostuspohjassa ei ole tulostavaa funktiota"));
 }
 
 /** Gathers the model's data, all of one moment. */

@@ -26,6 +26,9 @@ public:
     /** @return true always; fileName stands in error messages and back traces */
     bool loadFromSource(const QString &source, const QString &fileName);
 
+    /** Whether the loaded script has the function that makes a document. */
+    bool isRunnable() const { return m_script.isRunnable(); }
+
     bool hasException() const { return m_script.hasException(); }
     QString exception() const { return m_script.exception(); }
     int exceptionLineNumber() const { return m_script.exceptionLineNumber(); }
