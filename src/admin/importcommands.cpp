@@ -48,6 +48,7 @@ public:
         payment.referenceNumber = reader.referenceNumber();
         payment.payerName = reader.payerName();
         payment.archiveId = reader.archiveId();
+        payment.format = reader.format();
         payment.bankAccountId = accountId(reader.iban(), reader.bban());
         payments.append(payment);
     }

@@ -14,6 +14,7 @@ struct ImportedPayment {
     QString referenceNumber; ///< national form without leading zeros, empty for none
     QString payerName;
     QString archiveId;      ///< the bank's, empty for none
+    QString format;         ///< of the file, see PaymentFileReader::format()
     int bankAccountId = -1; ///< -1: none of the seller's accounts
     int invoiceId = -1;     ///< -1: none
     int invoiceNumber = 0;

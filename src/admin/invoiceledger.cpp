@@ -2,7 +2,7 @@
 
 #include "importedpayment.h"
 
-#include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -43,32 +43,48 @@ QString InvoiceLedger::comparableId(const QString &archiveId)
     return id.right(comparableLength);
 }
 
-bool InvoiceLedger::takeKnown(const ImportedPayment &payment)
+QString InvoiceLedger::storedId(const ImportedPayment &payment)
 {
     const QString id = comparableId(payment.archiveId);
-    for (const Entry &entry : qAsConst(m_entries)) {
-        // A correction can repeat the id of what it takes back: the amount tells them apart.
-        if (!id.isEmpty() && entry.archiveId == id && entry.payment.amount == payment.amount)
-            return true;
-    }
+    return id.isEmpty() ? id : payment.format + QLatin1Char(':') + id;
+}
+
+bool InvoiceLedger::takeKnown(const ImportedPayment &payment)
+{
+    const QString id = storedId(payment);
+    const QString prefix = payment.format + QLatin1Char(':');
+    Entry *found = nullptr;
     for (Entry &entry : m_entries) {
-        const bool sameAccount =
-            entry.payment.bankAccountId < 0 || entry.payment.bankAccountId == payment.bankAccountId;
-        const bool equal = entry.payment.date == payment.date && entry.payment.amount == payment.amount && sameAccount;
-        if (equal && !entry.isNew && !entry.isTaken && (id.isEmpty() || entry.archiveId.isEmpty())) {
-            entry.isTaken = true;
-            if (entry.archiveId.isEmpty())
-                entry.archiveId = id;
-            return true;
-        }
+        const bool sameAccount = entry.payment.bankAccountId < 0 || payment.bankAccountId < 0 ||
+                                 entry.payment.bankAccountId == payment.bankAccountId;
+        if (entry.payment.date != payment.date || entry.payment.amount != payment.amount || !sameAccount)
+            continue;
+        if (!id.isEmpty() && entry.archiveId == id)
+            return true; // also when the file itself tells it twice
+        const bool idsDecide = !id.isEmpty() && entry.archiveId.startsWith(prefix);
+        if (!entry.isNew && !entry.isTaken && !idsDecide && !found)
+            found = &entry;
     }
-    return false;
+    if (!found)
+        return false;
+    found->isTaken = true;
+    if (found->archiveId.isEmpty())
+        found->archiveId = id;
+    return true;
 }
 
 bool InvoiceLedger::holdsAmount(int amount) const
 {
-    return std::any_of(m_entries.begin(), m_entries.end(),
-                       [amount](const Entry &entry) { return entry.payment.amount == amount; });
+    int count = 0;
+    for (const Entry &entry : m_entries)
+        count += (entry.payment.amount == amount) - (entry.payment.amount == -amount);
+    return count > 0;
+}
+
+bool InvoiceLedger::canTake(int amount) const
+{
+    const long long balance = m_balance - amount;
+    return balance >= std::numeric_limits<int>::min() && balance <= std::numeric_limits<int>::max();
 }
 
 void InvoiceLedger::add(const ImportedPayment &payment)
@@ -78,7 +94,7 @@ void InvoiceLedger::add(const ImportedPayment &payment)
     entry.payment.date = payment.date;
     entry.payment.amount = payment.amount;
     entry.payment.bankAccountId = payment.bankAccountId;
-    entry.archiveId = comparableId(payment.archiveId);
+    entry.archiveId = storedId(payment);
     entry.isNew = true;
     m_entries.append(entry);
     m_balance -= payment.amount;

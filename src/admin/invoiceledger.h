@@ -13,7 +13,7 @@ struct ImportedPayment;
  * The payments of one invoice while a bank's file is imported: those stored before, and those that the file adds.
  *
  * Which payment came from which bank entry is kept in the invoice's property `bankArchiveIds`: words of the form
- * `paymentId:archiveId`.
+ * `paymentId:format:archiveId`.
  */
 class InvoiceLedger {
 public:
@@ -22,15 +22,19 @@ public:
 
     int invoiceId() const { return m_invoice.id; }
     int invoiceNumber() const { return m_invoice.number; }
-    int balance() const { return m_balance; } ///< with what the file has added, cents
+    long long balance() const { return m_balance; } ///< with what the file has added, cents
 
     /**
-     * Whether the bank's entry is among the payments: by its archive id, or, where one side has none, by date, amount
-     * and account. A stored payment stands for one entry of the file: it is taken by the first that equals it.
+     * Whether the bank's entry is among the payments: one of the same date, amount and account (an account that is not
+     * known counts as any). Between two files of one format the archive ids decide, where both have one; the formats do
+     * not tell the same ids, so that between them an equal payment is the same one. A stored payment stands for one
+     * entry of the file: it is taken by the first that equals it.
      */
     bool takeKnown(const ImportedPayment &payment);
-    /** Whether there is a payment of that amount. */
+    /** Whether there is a payment of that amount that was not taken back. */
     bool holdsAmount(int amount) const;
+    /** Whether the invoice's balance can take the payment: it is 32 bits of cents. */
+    bool canTake(int amount) const;
     void add(const ImportedPayment &payment);
 
     /** The payments that the file added, not stored yet. */
@@ -49,16 +53,17 @@ public:
 private:
     struct Entry {
         Payment payment;
-        QString archiveId; ///< comparable form, empty when not known
+        QString archiveId; ///< comparable form behind its format, empty when not known
         bool isNew = false;
         bool isTaken = false; ///< stands for an entry of this file
     };
 
     void readArchiveIds();
+    static QString storedId(const ImportedPayment &payment);
 
     Invoice m_invoice;
     QVector<Entry> m_entries;
-    int m_balance;
+    long long m_balance;
 };
 
 #endif

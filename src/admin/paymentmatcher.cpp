@@ -121,6 +121,10 @@ bool PaymentMatcher::matchOne(ImportedPayment &payment)
     } else if (InvoiceLedger *invoice = choose(payment, invoices, payment.result, payment.message)) {
         payment.invoiceId = invoice->invoiceId();
         payment.invoiceNumber = invoice->invoiceNumber();
+        if (payment.result == ImportResult::saved && !invoice->canTake(payment.amount)) {
+            payment.result = ImportResult::error;
+            payment.message = tr("Laskun loppusumma on liian suuri");
+        }
         if (payment.result == ImportResult::saved)
             invoice->add(payment);
     }

@@ -19,6 +19,8 @@ namespace {
 const QLatin1String invoiceType("invoice");
 const QLatin1String finvoiceType("finvoice");
 
+QString selectedKey() { return QStringLiteral("printScripts/invoice"); }
+
 struct State {
     PrintScript record;
     QString fileName;
@@ -101,10 +103,12 @@ bool sourceFile(CommandContext &context, const QString &, const QString &value, 
                                    CommandContext::tr("Tiedostoa %1 ei voi lukea: %2").arg(value, file.errorString()));
     state.record.sourceCode = QString::fromUtf8(file.readAll());
     const QScriptSyntaxCheckResult syntax = QScriptEngine::checkSyntax(state.record.sourceCode);
-    if (syntax.state() != QScriptSyntaxCheckResult::Valid)
+    if (syntax.state() != QScriptSyntaxCheckResult::Valid) {
+        const QString reason = syntax.errorMessage().isEmpty() ? QStringLiteral("SyntaxError") : syntax.errorMessage();
         return context.status.fail(
             ExitCode::badData,
-            CommandContext::tr("%1 (rivi %2)").arg(syntax.errorMessage(), QString::number(syntax.errorLineNumber())));
+            CommandContext::tr("%1 (rivi %2)").arg(reason, QString::number(syntax.errorLineNumber())));
+    }
     return true;
 }
 
@@ -254,7 +258,7 @@ bool selectScript(CommandContext &context, const ParameterList &words)
     if (!context.session.fetch(CachedList::settings))
         return false;
     Settings &settings = *context.session.registry().settings();
-    const QString key = QStringLiteral("printScripts/invoice");
+    const QString key = selectedKey();
     if (state.found)
         settings.setProperty(key, state.record.id);
     else if (state.builtIn > 0)
@@ -324,8 +328,16 @@ void parseRemovePrintScriptsCommand(CommandContext &context, QStringList &args)
     QVector<PrintScript> found;
     if (!transaction.hasBegun() || !findScripts(context, args, found))
         return;
+    if (!context.session.fetch(CachedList::settings))
+        return;
+    Settings &settings = *context.session.registry().settings();
+    const QVariant selected = settings.property(selectedKey());
     for (const PrintScript &script : qAsConst(found)) {
-        if (!context.session.query()->deletePrintScript(script.id)) {
+        const bool isSelected = selected.isValid() && selected.toInt() == script.id;
+        if (isSelected)
+            settings.removeProperty(selectedKey()); // a later script may get the id
+        if (!context.session.query()->deletePrintScript(script.id) ||
+            (isSelected && !context.session.query()->saveSettings(&settings))) {
             context.session.failQuery();
             return;
         }

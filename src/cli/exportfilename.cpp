@@ -17,8 +17,9 @@ QString cutToBytes(QString text, int limit)
 }
 
 /** Names that Windows gives to devices; files are carried there. */
-bool isDeviceName(const QString &baseName)
+bool isDeviceName(const QString &name)
 {
+    const QString baseName = name.section(QLatin1Char('.'), 0, 0).trimmed();
     static const QRegularExpression devices(QStringLiteral("^(CON|PRN|AUX|NUL|COM\\d|LPT\\d)$"),
                                             QRegularExpression::CaseInsensitiveOption);
     return devices.match(baseName).hasMatch();
@@ -40,7 +41,9 @@ QString ExportFileName::legalName(const QString &name)
     else
         suffix.clear();
     QString base = legal.left(legal.size() - suffix.size());
-    if (base.isEmpty() || base == QLatin1String(".") || base == QLatin1String("..") || isDeviceName(base))
+    if (isDeviceName(base))
+        base.prepend(QLatin1Char('_'));
+    if (base.isEmpty() || base == QLatin1String(".") || base == QLatin1String(".."))
         base += QLatin1Char('_');
     return cutToBytes(base, maxBytes - suffix.toUtf8().size()) + suffix;
 }

@@ -128,8 +128,8 @@ bool loadInvoiceScript(CommandContext &context, const QString &name, PrintScript
 {
     if (!context.session.fetch(CachedList::printScripts))
         return false;
-    const bool loaded = name.isEmpty() ? ScriptLoader(&context.session.registry()).loadInvoiceScript(&manager)
-                                       : loadNamedScript(context, name, manager);
+    const bool loaded = name.isNull() ? ScriptLoader(&context.session.registry()).loadInvoiceScript(&manager)
+                                      : loadNamedScript(context, name, manager);
     return !context.status.hasFailed() && ExportTools::checkLoaded(context, manager, loaded);
 }
 

@@ -1,11 +1,17 @@
 #include "criteriatexts.h"
 
+#include "bankaccount.h"
+#include "customer.h"
 #include "dateformat.h"
+#include "invoice.h"
 #include "invoicecriteria.h"
 #include "paymentcriteria.h"
+#include "registry.h"
 
 namespace {
 
+constexpr int interestInvoicesOnly = 1 << Invoice::interestInvoice;
+constexpr int creditNotesOnly = 1 << Invoice::creditNote;
 constexpr int deliveryNotesOnly = 1 << 3;
 
 QString text(const QDate &date) { return DateFormat().format(date); }
@@ -51,11 +57,26 @@ QString CriteriaTexts::paymentState(const InvoiceCriteria &criteria)
     }
 }
 
-QStringList CriteriaTexts::forInvoices(const InvoiceCriteria &criteria)
+QString CriteriaTexts::documentKinds(int types)
+{
+    const struct {
+        int types;
+        QString text;
+    } kinds[] = {{interestInvoicesOnly, tr("Korkolaskut")},
+                 {creditNotesOnly, tr("Hyvityslaskut")},
+                 {deliveryNotesOnly, tr("Lähetteet")}};
+    for (const auto &kind : kinds) {
+        if (types == kind.types)
+            return kind.text;
+    }
+    return tr("Laskut");
+}
+
+QStringList CriteriaTexts::forInvoices(const InvoiceCriteria &criteria, const Registry &registry)
 {
     QStringList lines;
     if (criteria.types >= 0)
-        lines.append(criteria.types == deliveryNotesOnly ? tr("Lähetteet") : tr("Laskut"));
+        lines.append(documentKinds(criteria.types));
     const QString state = paymentState(criteria);
     if (!state.isEmpty())
         lines.append(state);
@@ -68,14 +89,29 @@ QStringList CriteriaTexts::forInvoices(const InvoiceCriteria &criteria)
     const QString range = QLatin1Char(' ') + tr("väliltä %1 - %2");
     addRange(lines, tr("Eräpäivä") + range, criteria.dueDateFrom, criteria.dueDateTo);
     addRange(lines, tr("Toimituspäivä") + range, criteria.deliveryDateFrom, criteria.deliveryDateTo);
+    if (criteria.id >= 0)
+        lines.append(tr("Laskun tunniste %1").arg(criteria.id));
+    if (criteria.customerId >= 0) {
+        bool found = false;
+        const Customer *customer = registry.customerById(criteria.customerId, found);
+        lines.append(tr("Asiakas %1").arg(found ? customer->name : QString::number(criteria.customerId)));
+    }
+    if (!criteria.referenceNumber.isEmpty())
+        lines.append(tr("Viitenumero %1").arg(criteria.referenceNumber));
     if (!criteria.text.isEmpty())
         lines.append(tr("Hakusanalla ") + searchWord(criteria.text));
     return lines;
 }
 
-QStringList CriteriaTexts::forPayments(const PaymentCriteria &payments, const InvoiceCriteria &invoices)
+QStringList CriteriaTexts::forPayments(const PaymentCriteria &payments, const InvoiceCriteria &invoices,
+                                       const Registry &registry)
 {
     QStringList lines;
     addRange(lines, tr("Maksusuoritukset ajalta %1 - %2"), payments.dateFrom, payments.dateTo);
-    return lines + forInvoices(invoices);
+    if (payments.bankAccountId >= 0) {
+        bool found = false;
+        const BankAccount *account = registry.bankAccountById(payments.bankAccountId, found);
+        lines.append(tr("Pankkitili %1").arg(found ? account->name : QString::number(payments.bankAccountId)));
+    }
+    return lines + forInvoices(invoices, registry);
 }

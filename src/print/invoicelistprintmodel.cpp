@@ -195,7 +195,10 @@ bool InvoiceListPrintModel::addRows(Query &query)
     return true;
 }
 
-void InvoiceListPrintModel::buildCriteriaStrings() { m_criteriaStrings = CriteriaTexts::forInvoices(m_criteria); }
+void InvoiceListPrintModel::buildCriteriaStrings()
+{
+    m_criteriaStrings = CriteriaTexts::forInvoices(m_criteria, *m_registry);
+}
 
 void InvoiceListPrintModel::sort(int order)
 {

@@ -143,7 +143,7 @@ bool PaymentPrintModel::run()
         m_entries.append(Entry());
         query->invoiceAndPayment(&m_entries.last().invoice, &m_entries.last().payment);
     }
-    m_criteriaStrings = CriteriaTexts::forPayments(m_paymentCriteria, m_invoiceCriteria);
+    m_criteriaStrings = CriteriaTexts::forPayments(m_paymentCriteria, m_invoiceCriteria, *m_registry);
     sort(m_sortOrder);
     return true;
 }

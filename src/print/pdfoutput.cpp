@@ -6,6 +6,7 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 
 PdfOutput::PdfOutput(QPrinter *printer)
     : m_printer(printer),
@@ -50,6 +51,9 @@ bool PdfOutput::open()
     // A pipe must not be opened here: closing it would tell its reader that all is over.
     if (m_temporary.isEmpty() && !QFileInfo(m_fileName).isDir())
         return true;
+    const QFileInfo target(m_fileName);
+    if (target.exists() && !target.isWritable()) // a rename would not ask
+        return fail(QString::fromLocal8Bit(std::strerror(EACCES)));
     QFile file(m_temporary.isEmpty() ? m_fileName : m_temporary);
     return file.open(QIODevice::WriteOnly) || fail(file.errorString());
 }

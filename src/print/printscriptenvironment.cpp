@@ -234,7 +234,11 @@ void PrintScriptEnvironment::drawBarcode128C(double x, double y, double w, doubl
         Barcode128::renderC(m_painter, toPixels(x), toPixels(y), toPixels(w), toPixels(h), digits);
 }
 
-void PrintScriptEnvironment::rotate(double angle) { m_painter->rotate(angle); }
+void PrintScriptEnvironment::rotate(double angle)
+{
+    if (qIsFinite(angle))
+        m_painter->rotate(angle);
+}
 
 void PrintScriptEnvironment::setLocale(const QString &name)
 {

@@ -11,9 +11,7 @@ OutputFile::OutputFile(const QString &fileName)
         m_file = std::make_unique<QFile>(fileName);
         return;
     }
-    auto file = std::make_unique<QSaveFile>(fileName);
-    file->setDirectWriteFallback(true); // where only the file, not its folder, may be written
-    m_file = std::move(file);
+    m_file = std::make_unique<QSaveFile>(fileName);
 }
 
 OutputFile::~OutputFile() = default;
@@ -22,10 +20,13 @@ bool OutputFile::open() { return m_file->open(QIODevice::WriteOnly); }
 
 bool OutputFile::commit()
 {
-    if (auto *file = qobject_cast<QSaveFile *>(m_file.get()))
+    const bool isFlushed = m_file->flush() && m_file->error() == QFileDevice::NoError;
+    if (auto *file = qobject_cast<QSaveFile *>(m_file.get())) {
+        if (!isFlushed)
+            file->cancelWriting(); // the library itself does not notice what fails only now, as on a full disk
         return file->commit();
-    m_file->flush();
-    const bool isWritten = m_file->error() == QFileDevice::NoError;
+    }
+    const bool isWritten = isFlushed;
     m_file->close();
     return isWritten && m_file->error() == QFileDevice::NoError;
 }

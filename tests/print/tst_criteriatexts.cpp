@@ -1,6 +1,8 @@
 #include "criteriatexts.h"
+#include "customer.h"
 #include "invoicecriteria.h"
 #include "paymentcriteria.h"
+#include "registry.h"
 
 #include <QtTest>
 
@@ -45,6 +47,9 @@ const Row rows[] = {
      u8"Eräpäivä väliltä 1.1.2024 - 31.12.2024"},
     {"delivery dates", [](InvoiceCriteria &c) { c.deliveryDateFrom = first; }, u8"Toimituspäivä väliltä 1.1.2024 -"},
     {"word", [](InvoiceCriteria &c) { c.text = "%10\\% x\\_%2 \\\\%"; }, "Hakusanalla 10% x_%2 \\"},
+    {"credit notes", [](InvoiceCriteria &c) { c.types = 4; }, "Hyvityslaskut"},
+    {"unknown customer", [](InvoiceCriteria &c) { c.customerId = 7; }, "Asiakas 7"},
+    {"customer", [](InvoiceCriteria &c) { c.customerId = 5; }, "Asiakas Virtanen"},
     {"several in order", [](InvoiceCriteria &c) { c.text = "x", c.dateFrom = first, c.types = 1; },
      "Laskut|ajalta 1.1.2024 -|Hakusanalla x"},
 };
@@ -61,20 +66,26 @@ void CriteriaTextsTest::invoices_data()
 void CriteriaTextsTest::invoices()
 {
     QFETCH(int, index);
+    Registry registry;
+    Customer customer;
+    customer.id = 5;
+    customer.name = "Virtanen";
+    registry.storeCustomer(customer);
     InvoiceCriteria criteria;
     rows[index].set(criteria);
-    QCOMPARE(CriteriaTexts::forInvoices(criteria).join('|'), QString::fromUtf8(rows[index].lines));
+    QCOMPARE(CriteriaTexts::forInvoices(criteria, registry).join('|'), QString::fromUtf8(rows[index].lines));
 }
 
 void CriteriaTextsTest::payments()
 {
+    const Registry registry;
     PaymentCriteria payments;
     InvoiceCriteria invoices;
-    QVERIFY(CriteriaTexts::forPayments(payments, invoices).isEmpty());
+    QVERIFY(CriteriaTexts::forPayments(payments, invoices, registry).isEmpty());
     payments.dateFrom = first;
     payments.dateTo = last;
     invoices.paymentState = InvoiceCriteria::open;
-    QCOMPARE(CriteriaTexts::forPayments(payments, invoices),
+    QCOMPARE(CriteriaTexts::forPayments(payments, invoices, registry),
              (QStringList{"Maksusuoritukset ajalta 1.1.2024 - 31.12.2024", "Avoimet laskut"}));
 }
 

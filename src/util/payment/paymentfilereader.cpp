@@ -78,21 +78,35 @@ bool PaymentFileReader::readFile(QFile &file)
     return false;
 }
 
-void PaymentFileReader::readEASFile(QFile &file) { EASReader(*this).read(file); }
+void PaymentFileReader::readEASFile(QFile &file)
+{
+    m_format = "eas";
+    EASReader(*this).read(file);
+}
 
-void PaymentFileReader::readIRPFile(QFile &file) { IRPReader(*this).read(file); }
+void PaymentFileReader::readIRPFile(QFile &file)
+{
+    m_format = "irp";
+    IRPReader(*this).read(file);
+}
 
 void PaymentFileReader::readCSVOpFile(QFile &file)
 {
+    m_format = "op";
     CSVOpReader(*this, m_amountFormat).read(file, guessCharset(file.peek(sampleSize)));
 }
 
 void PaymentFileReader::readCSVNordeaFile(QFile &file, const QString &delimiter, QTextCodec *codec)
 {
+    m_format = "nordea";
     CSVNordeaReader(*this, m_amountFormat).read(file, delimiter, codec);
 }
 
-void PaymentFileReader::readXMLFile(QFile &file) { CamtReader(*this, m_amountFormat).read(file); }
+void PaymentFileReader::readXMLFile(QFile &file)
+{
+    m_format = "camt";
+    CamtReader(*this, m_amountFormat).read(file);
+}
 
 QTextCodec *PaymentFileReader::guessCharset(const QByteArray &sample)
 {

@@ -41,6 +41,8 @@ public:
     QString referenceNumber() const { return m_payment.referenceNumber; }
     QString payerName() const { return m_payment.payerName; }
     QString archiveId() const { return m_payment.archiveId; }
+    /** Which kind of file is read: "eas", "irp", "op", "nordea" or "camt". Archive ids agree within one kind. */
+    QString format() const { return QLatin1String(m_format); }
     bool isCorrection() const { return m_payment.correction; }
     qint64 lineNumber() const { return m_payment.lineNumber; } ///< from 1
 
@@ -63,6 +65,7 @@ private:
 
     PaymentListener *m_listener;
     QString m_lastError;
+    const char *m_format = "";
     PaymentRecord m_payment;
     DecimalFormat m_amountFormat;
 };
