@@ -1,6 +1,7 @@
 #include "databasesession.h"
 
 #include "commandstatus.h"
+#include "customer.h"
 #include "diagnostics.h"
 #include "postgresqldatabase.h"
 #include "query.h"
@@ -15,6 +16,9 @@ using Fetch = bool (Registry::*)(Query *);
 // In the order of CachedList.
 constexpr Fetch fetches[] = {&Registry::fetchBankAccounts, &Registry::fetchCustomers, &Registry::fetchProducts,
                              &Registry::fetchSettings, &Registry::fetchPrintScripts};
+
+/** Up to so many customers are read one by one rather than with the whole list. */
+constexpr int fewCustomers = 50;
 
 } // namespace
 
@@ -130,6 +134,24 @@ bool DatabaseSession::fetch(CachedList list)
         return failQuery();
     state.version = version;
     state.fetched = true;
+    return true;
+}
+
+bool DatabaseSession::fetchCustomers(const QSet<int> &ids)
+{
+    if (isFetched(CachedList::customers) || ids.size() > fewCustomers)
+        return fetch(CachedList::customers);
+    for (const int id : ids) {
+        if (!m_query->fetchCustomer(id))
+            return failQuery();
+        Customer customer;
+        const bool found = m_query->next();
+        if (found)
+            m_query->customer(&customer);
+        m_query->finish();
+        if (found)
+            m_registry.storeCustomer(customer);
+    }
     return true;
 }
 

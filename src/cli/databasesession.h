@@ -4,6 +4,7 @@
 #include "registry.h"
 
 #include <QCoreApplication>
+#include <QSet>
 
 #include <memory>
 #include <optional>
@@ -44,6 +45,12 @@ public:
 
     /** Reads the list into the registry unless that is done already. */
     [[nodiscard]] bool fetch(CachedList list);
+    bool isFetched(CachedList list) const { return m_lists[static_cast<int>(list)].fetched; }
+    /**
+     * Makes the customers of these ids known to the registry's lookup by id: a few are read by themselves, so that one
+     * document does not cost reading all customers.
+     */
+    [[nodiscard]] bool fetchCustomers(const QSet<int> &ids);
     /**
      * A record of the list was saved: the list is read again when next needed, unless the registry was told of the
      * change and nobody else has changed the database.

@@ -238,12 +238,17 @@ void parseExportInvoicesCommand(CommandContext &context, QStringList &args)
         if (!applyParameter(context, key, value, request, &criteria))
             return;
     }
-    if (!context.session.fetch(CachedList::bankAccounts) || !context.session.fetch(CachedList::customers))
+    if (!context.session.fetch(CachedList::bankAccounts))
         return;
     InvoicePrintModel model(&context.session.registry());
     criteria.copy(model.criteria());
     model.setPrintType(request.printType);
     if (!ExportTools::runModel(context, model))
+        return;
+    QSet<int> customers;
+    for (int i = 0; i < model.invoiceCount(); ++i)
+        customers.insert(model.invoice(i)->customerId);
+    if (!context.session.fetchCustomers(customers))
         return;
     if (request.format < 0)
         request.format = ValueParser::guessPrintFormat(request.fileName, true);

@@ -80,7 +80,7 @@ bool customerByName(CommandContext &context, const QString &, const QString &val
 bool loadCustomer(CommandContext &context, State &state)
 {
     state.found = true;
-    if (!context.session.fetch(CachedList::customers))
+    if (!context.session.fetchCustomers({state.record.customerId}))
         return false;
     bool known = false;
     const Customer *customer = context.session.registry().customerById(state.record.customerId, known);

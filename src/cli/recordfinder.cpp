@@ -87,20 +87,46 @@ bool RecordFinder::findBankAccountByName(const QString &name, BankAccount *accou
                       {tr("Pankkitiliä ei löytynyt nimellä %1"), tr("Nimellä %1 löytyi useita pankkitilejä")});
 }
 
+/** Reads the first customer of a fetch that is not removed. */
+bool RecordFinder::readCustomer(bool fetched, Customer *customer, const QString &notFound)
+{
+    Query *query = m_session.query();
+    if (!fetched)
+        return m_session.failQuery();
+    bool found = false;
+    while (!found && query->next()) {
+        Customer candidate;
+        query->customer(&candidate);
+        found = !candidate.deleted;
+        if (found)
+            *customer = candidate;
+    }
+    const bool failed = !found && query->hasReadError();
+    if (failed)
+        return m_session.failQuery();
+    query->finish();
+    return found || m_status.fail(ExitCode::badData, notFound);
+}
+
+// Where the list is not read yet, the database is asked for the one: a list grows, an index does not care.
+
 bool RecordFinder::findCustomerById(int id, Customer *customer)
 {
-    return m_session.fetch(CachedList::customers) &&
-           findFirst(
-               m_session.registry().customers(), [id](const Customer *c) { return c->id == id; }, customer,
-               tr("Asiakasta ei löytynyt tunnisteella %1").arg(id));
+    const QString notFound = tr("Asiakasta ei löytynyt tunnisteella %1").arg(id);
+    if (!m_session.isFetched(CachedList::customers))
+        return readCustomer(m_session.query()->fetchCustomer(id), customer, notFound);
+    return findFirst(
+        m_session.registry().customers(), [id](const Customer *c) { return c->id == id; }, customer, notFound);
 }
 
 bool RecordFinder::findCustomerByNumber(int number, Customer *customer)
 {
-    return m_session.fetch(CachedList::customers) &&
-           findFirst(
-               m_session.registry().customers(), [number](const Customer *c) { return c->number == number; }, customer,
-               tr("Asiakasta ei löytynyt numerolla %1").arg(number));
+    const QString notFound = tr("Asiakasta ei löytynyt numerolla %1").arg(number);
+    if (!m_session.isFetched(CachedList::customers))
+        return readCustomer(m_session.query()->fetchCustomersByNumber(number), customer, notFound);
+    return findFirst(
+        m_session.registry().customers(), [number](const Customer *c) { return c->number == number; }, customer,
+        notFound);
 }
 
 bool RecordFinder::findCustomerByName(const QString &name, Customer *customer)

@@ -52,6 +52,8 @@ private:
                     Record *record, const Messages &messages);
     template <class Record, class Read> bool readOne(bool fetched, Read read, Record *record, const QString &notFound);
 
+    bool readCustomer(bool fetched, Customer *customer, const QString &notFound);
+
     DatabaseSession &m_session;
     CommandStatus &m_status;
 };

@@ -124,6 +124,10 @@ bool Query::fetchBankAccounts() { return fetchAll<BankAccount>(" ORDER BY row_nu
 
 bool Query::fetchCustomers() { return fetchAll<Customer>(" ORDER BY number"); }
 
+bool Query::fetchCustomer(int id) { return fetchWhere<Customer>("id", id); }
+
+bool Query::fetchCustomersByNumber(int number) { return fetchWhere<Customer>("number", number, " ORDER BY id"); }
+
 bool Query::fetchProducts() { return fetchAll<Product>(" ORDER BY number"); }
 
 bool Query::fetchInvoiceDetails(int id) { return fetchWhere<Invoice>("id", id, " LIMIT 1"); }

@@ -41,6 +41,8 @@ public:
     // Lists and single records
     [[nodiscard]] bool fetchBankAccounts();
     [[nodiscard]] bool fetchCustomers();
+    [[nodiscard]] bool fetchCustomer(int id);
+    [[nodiscard]] bool fetchCustomersByNumber(int number); ///< removed ones too, in the order of the list
     [[nodiscard]] bool fetchProducts();
     [[nodiscard]] bool fetchInvoiceDetails(int id);
     [[nodiscard]] bool fetchInvoiceItems(int invoiceId);

@@ -4,37 +4,26 @@
 #include <QFileInfo>
 #include <QPrinter>
 
-#include <cerrno>
-#include <cstdio>
-#include <cstring>
-
 PdfOutput::PdfOutput(QPrinter *printer)
     : m_printer(printer),
-      m_fileName(printer->outputFormat() == QPrinter::PdfFormat ? printer->outputFileName() : QString())
+      m_fileName(printer->outputFormat() == QPrinter::PdfFormat ? printer->outputFileName() : QString()),
+      m_place(m_fileName)
 {
-    const QFileInfo file(m_fileName);
-    if (m_fileName.isEmpty() || (file.exists() && !file.isFile()))
-        return;
-    m_target = file.exists() ? file.canonicalFilePath() : m_fileName;
-    // A name of its own length: the file's may be as long as the file system takes.
-    m_temporary = QStringLiteral("%1/.billora-%2.tmp")
-                      .arg(QFileInfo(m_target).absolutePath(), QString::number(QCoreApplication::applicationPid()));
-    m_printer->setOutputFileName(m_temporary);
+    if (!m_place.temporaryName().isEmpty())
+        m_printer->setOutputFileName(m_place.temporaryName());
 }
 
 PdfOutput::~PdfOutput()
 {
-    if (m_temporary.isEmpty())
-        return;
-    QFile::remove(m_temporary);
-    m_printer->setOutputFileName(m_fileName);
+    if (!m_place.temporaryName().isEmpty())
+        m_printer->setOutputFileName(m_fileName);
 }
 
 /** Whether the document has its end; the writing itself reports no errors. */
 bool PdfOutput::isWritten() const
 {
     static const QByteArray end = QByteArrayLiteral("%%EOF\n");
-    QFile file(m_temporary);
+    QFile file(m_place.temporaryName());
     return file.open(QIODevice::ReadOnly) && file.seek(qMax(0LL, file.size() - end.size())) && file.readAll() == end;
 }
 
@@ -48,25 +37,20 @@ bool PdfOutput::open()
 {
     if (m_fileName.isEmpty())
         return true;
+    if (!m_place.mayBeReplaced())
+        return fail(m_place.errorString());
     // A pipe must not be opened here: closing it would tell its reader that all is over.
-    if (m_temporary.isEmpty() && !QFileInfo(m_fileName).isDir())
+    if (m_place.temporaryName().isEmpty())
         return true;
-    const QFileInfo target(m_fileName);
-    if (target.exists() && !target.isWritable()) // a rename would not ask
-        return fail(QString::fromLocal8Bit(std::strerror(EACCES)));
-    QFile file(m_temporary.isEmpty() ? m_fileName : m_temporary);
+    QFile file(m_place.temporaryName());
     return file.open(QIODevice::WriteOnly) || fail(file.errorString());
 }
 
 bool PdfOutput::commit()
 {
-    if (m_temporary.isEmpty())
+    if (m_place.temporaryName().isEmpty())
         return true;
     if (!isWritten())
         return fail(tr("Tiedoston kirjoittaminen jäi kesken"));
-    if (QFile::exists(m_target))
-        QFile::setPermissions(m_temporary, QFile::permissions(m_target));
-    if (std::rename(QFile::encodeName(m_temporary), QFile::encodeName(m_target)) != 0)
-        return fail(qt_error_string(errno));
-    return true;
+    return m_place.putInPlace() || fail(m_place.errorString());
 }

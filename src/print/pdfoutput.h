@@ -1,6 +1,8 @@
 #ifndef PDFOUTPUT_H
 #define PDFOUTPUT_H
 
+#include "replacedfile.h"
+
 #include <QCoreApplication>
 #include <QString>
 
@@ -30,8 +32,7 @@ private:
 
     QPrinter *m_printer;
     const QString m_fileName; ///< as given; empty for no file
-    QString m_target;         ///< the file behind a symbolic link
-    QString m_temporary;      ///< empty when the file is written directly
+    ReplacedFile m_place;
     QString m_errorString;
 };
 

@@ -1,36 +1,31 @@
 #include "outputfile.h"
 
-#include <QFile>
-#include <QFileInfo>
-#include <QSaveFile>
-
 OutputFile::OutputFile(const QString &fileName)
+    : m_place(fileName), m_file(m_place.temporaryName().isEmpty() ? fileName : m_place.temporaryName())
 {
-    const QFileInfo existing(fileName);
-    if (existing.exists() && !existing.isFile() && !existing.isDir()) {
-        m_file = std::make_unique<QFile>(fileName);
-        return;
-    }
-    m_file = std::make_unique<QSaveFile>(fileName);
 }
 
-OutputFile::~OutputFile() = default;
+bool OutputFile::fail(const QString &message)
+{
+    m_errorString = message;
+    return false;
+}
 
-bool OutputFile::open() { return m_file->open(QIODevice::WriteOnly); }
+bool OutputFile::open()
+{
+    if (!m_place.mayBeReplaced())
+        return fail(m_place.errorString());
+    return m_file.open(QIODevice::WriteOnly) || fail(m_file.errorString());
+}
 
 bool OutputFile::commit()
 {
-    const bool isFlushed = m_file->flush() && m_file->error() == QFileDevice::NoError;
-    if (auto *file = qobject_cast<QSaveFile *>(m_file.get())) {
-        if (!isFlushed)
-            file->cancelWriting(); // the library itself does not notice what fails only now, as on a full disk
-        return file->commit();
-    }
-    const bool isWritten = isFlushed;
-    m_file->close();
-    return isWritten && m_file->error() == QFileDevice::NoError;
+    m_file.flush();
+    const bool isWritten = m_file.error() == QFileDevice::NoError;
+    if (!isWritten)
+        fail(m_file.errorString());
+    m_file.close();
+    if (!isWritten || m_place.temporaryName().isEmpty())
+        return isWritten;
+    return m_place.putInPlace() || fail(m_place.errorString());
 }
-
-QIODevice *OutputFile::device() const { return m_file.get(); }
-
-QString OutputFile::errorString() const { return m_file->errorString(); }

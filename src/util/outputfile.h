@@ -1,12 +1,10 @@
 #ifndef OUTPUTFILE_H
 #define OUTPUTFILE_H
 
+#include "replacedfile.h"
+
+#include <QFile>
 #include <QString>
-
-#include <memory>
-
-class QFileDevice;
-class QIODevice;
 
 /**
  * A file to be written as a whole or not at all: an existing file is replaced only by a complete new one, and a failure
@@ -15,17 +13,20 @@ class QIODevice;
 class OutputFile {
 public:
     explicit OutputFile(const QString &fileName);
-    ~OutputFile();
 
     [[nodiscard]] bool open();
     /** @return whether everything written until now is in the file; without a commit nothing is */
     [[nodiscard]] bool commit();
 
-    QIODevice *device() const;
-    QString errorString() const; ///< the file's own text of the last failure
+    QIODevice *device() { return &m_file; }
+    QString errorString() const { return m_errorString; } ///< the system's own text of the last failure
 
 private:
-    std::unique_ptr<QFileDevice> m_file;
+    bool fail(const QString &message);
+
+    ReplacedFile m_place;
+    QFile m_file;
+    QString m_errorString;
 };
 
 #endif

@@ -1,0 +1,35 @@
+#ifndef REPLACEDFILE_H
+#define REPLACEDFILE_H
+
+#include <QString>
+
+/**
+ * A file that is written beside its place and put there when it is whole: until then an existing file stays as it was,
+ * and nothing is left of a failure. What is no regular file, such as a pipe, has no such place and is written directly.
+ * A link is followed. Nothing is forced to the disk, which would cost more than most files do.
+ */
+class ReplacedFile {
+public:
+    explicit ReplacedFile(const QString &fileName);
+    /** Removes what was not put in place. */
+    ~ReplacedFile();
+    ReplacedFile(const ReplacedFile &) = delete;
+    ReplacedFile &operator=(const ReplacedFile &) = delete;
+
+    /** Where to write; empty for a file that is written directly. */
+    QString temporaryName() const { return m_temporary; }
+    /** @return false, with the reason in errorString(), when the file must not be replaced */
+    [[nodiscard]] bool mayBeReplaced();
+    [[nodiscard]] bool putInPlace();
+    QString errorString() const { return m_errorString; }
+
+private:
+    bool fail(int error);
+
+    const QString m_fileName;
+    QString m_target; ///< the file behind a symbolic link
+    QString m_temporary;
+    QString m_errorString;
+};
+
+#endif
