@@ -23,6 +23,8 @@ var THIN_LINE = 0.3;
 var THICK_LINE = 0.5;
 var POINT = 25.4 / 72;
 var ROUNDING = 0.001; // what a sum of measures may be off
+var MEASURING_PITCH = 25.4; // of lines to be counted: a whole number of dots at every resolution
+var ENDLESS = 1e6; // higher than any text
 var WIDEST_EM = 0.95; // almost no letter is wider
 var DIGIT_EM = 0.556; // every digit, and about the minus sign
 var COMMA_EM = 0.278;
@@ -50,6 +52,7 @@ var HEADER_PADDING = 1.5;
 var HEADER_CAPTION_TOP = 0.9;
 var HEADER_VALUE_TOP = 4.1;
 var HEADER_SMALL_LINE = 3.4;
+var HEADER_MOST_ROWS = 4; // that one value may take
 var HEADER_TEXT_WIDTH = HEADER_WIDTH - 2 * HEADER_PADDING;
 var HEADER_CELL_WIDTH = COLUMN_2 - COLUMN_1 - 2 * HEADER_PADDING;
 
@@ -65,6 +68,8 @@ var COLUMN_GAP = 3;
 var LEAST_PRODUCT_WIDTH = 30;
 var MOST_PRODUCT_WIDTH = 110;
 var LEAST_ROWS_ON_LAST_PAGE = 2;
+var KEPT_TOGETHER = 25; // a row no higher than this is not divided between pages
+var LEAST_LINES = 2; // of a divided row, on either page
 
 // Notice, VAT breakdown and totals
 var CLOSING_GAP = 4;
@@ -84,6 +89,7 @@ var FRAME_TEXT_TOP = 1.4;
 var FOOTER_LINE = 3.5;
 var FOOTER_PADDING = 1.5;
 var FOOTER_MOST_LINES = 12;
+var FOOTER_LEAST_SIZE = 6;
 var FOOTER_COLUMNS = [20, 67, 114];
 var FOOTER_COLUMN_GAP = 3;
 var FOOTER_IBAN = 136;
@@ -307,11 +313,17 @@ function printInvoice(invoice, seller)
 
 // ---------------------------------------------------------------------------------------------------------- Values
 
-// A missing value is an empty text; a tab would leave its column.
-function textAt(path)
+// A missing value is an empty text; a tab would leave its column, a line separator its place.
+function textAt(path) { return linesAt(path, " "); }
+
+// A text that may have several lines, whatever separates them.
+function linesAt(path, separator)
 {
     var value = get(path);
-    return value === undefined || value === null ? "" : String(value).replace(/\s+$/, "").replace(/[\t\r]+/g, " ");
+    if (value === undefined || value === null)
+        return "";
+    return String(value).replace(/\s+$/, "").replace(/[\t\r]+/g, " ")
+        .replace(/[\x0b\x0c\x85\u2028\u2029]/g, separator || "\n");
 }
 
 function numberAt(path)
@@ -374,12 +386,12 @@ function readSeller()
     }
     seller.language = textAt("settings/language");
     seller.barcodeVisible = isTrue(get("settings/barcodeVisible"));
-    seller.reminderText = textAt("settings/reminderText");
+    seller.reminderText = linesAt("settings/reminderText");
     var options = parseInt(get("settings/invoiceItemOptions"), 10);
     seller.itemOptions = isNaN(options) ? DEFAULT_OPTIONS : options;
     seller.footerTexts = [];
     for (var k = 1; k <= 3; k++) {
-        var footerText = textAt("settings/footerText" + k);
+        var footerText = linesAt("settings/footerText" + k);
         if (footerText !== "")
             seller.footerTexts.push(footerText);
     }
@@ -411,7 +423,7 @@ function readInvoice(path, seller)
         textAt(path + "customer/country")
     ], "\n");
     invoice.notice = joined([
-        kind == REMINDER ? seller.reminderText : "", textAt(path + "noticeText1"), textAt(path + "noticeText2")
+        kind == REMINDER ? seller.reminderText : "", linesAt(path + "noticeText1"), linesAt(path + "noticeText2")
     ], "\n");
     if (invoice.hasForm)
         readSums(invoice, seller);
@@ -429,6 +441,8 @@ function readSums(invoice, seller)
     var count = numberAt(path + "vat/length");
     for (var i = 0; i < count; i++) {
         var rate = path + "vat/" + i + "/";
+        if (count > 1 && !isRateCharged(path, rate))
+            continue;
         invoice.vat.push([percentText(get(rate + "percent")), formatCurrency(get(rate + "amountVatExcluded")),
                           formatCurrency(get(rate + "vatAmount")), formatCurrency(get(rate + "amount"))]);
     }
@@ -436,6 +450,28 @@ function readSums(invoice, seller)
     invoice.payable = invoice.kind != CREDIT_NOTE && invoice.kind != RECEIPT
         && (invoice.balance > 0 || invoice.total == 0 && invoice.balance == 0);
     invoice.barcode = seller.barcodeVisible && invoice.payable ? barcodeDigits(invoice) : "";
+}
+
+// Whether a VAT rate has a sum or goods, and not only rows of free text.
+function isRateCharged(path, rate)
+{
+    if (numberAt(rate + "amountVatExcluded") != 0 || numberAt(rate + "amount") != 0)
+        return true;
+    var percent = numberAt(rate + "percent");
+    var count = numberAt(path + "items/length");
+    for (var i = 0; i < count; i++) {
+        var item = path + "items/" + i + "/";
+        if (numberAt(item + "vatRate") == percent && !isFreeText(item))
+            return true;
+    }
+    return false;
+}
+
+// Whether a row only tells something and sells nothing.
+function isFreeText(item)
+{
+    return numberAt(item + "quantity") == 0 && numberAt(item + "amountVatExcluded") == 0
+        && numberAt(item + "amount") == 0 && textAt(item + "productNumber") === "";
 }
 
 // The digits of the bank barcode, which are for the whole total, with the open balance in its place; empty when no
@@ -495,13 +531,14 @@ function drawFitted(x, y, w, s)
     drawText(x, y, w, 0, s);
 }
 
-// A word wider than the line would run out of its box: it goes on on the next line.
+// A word wider than the line would run out of its box: it goes on on the next line, an e-mail address after its @.
 function breakLongWords(s, w)
 {
-    return s.replace(/\S+/g, function (word) {
+    return s.replace(/[^ \n]+/g, function (word) {
         var pieces = [];
         while (!fits(word, w)) {
             var length = fittingLength(word, w, "");
+            length = word.lastIndexOf("@", length - 1) + 1 || length;
             pieces.push(word.substr(0, length));
             word = word.substr(length);
         }
@@ -516,11 +553,39 @@ function wrap(s, w, pitch)
     var block = { text: s, width: w, pitch: pitch, lines: s === "" ? 0 : 1 };
     if (s.indexOf("\n") >= 0 || !fits(s, w)) {
         block.text = breakLongWords(s, w);
-        setLineHeight(pitch);
-        block.lines = Math.max(1, Math.round(boundingRect(0, 0, w, PAGE_HEIGHT, block.text).height / pitch));
+        block.lines = countLines(block.text, w, ENDLESS);
     }
     block.height = block.lines * pitch;
     return block;
+}
+
+// The lines of a text in a box, of which one more than given may be counted.
+function countLines(s, w, most)
+{
+    setLineHeight(MEASURING_PITCH);
+    return Math.floor(boundingRect(0, 0, w, Math.min(ENDLESS, most * MEASURING_PITCH), s).height / MEASURING_PITCH) + 1;
+}
+
+// Leaves the first lines in a block, in the font it was made in, and returns a block with the rest.
+function cutBlock(block, lines)
+{
+    if (block.lines <= lines)
+        return wrap("", block.width, block.pitch);
+    var text = block.text;
+    var end = 0;
+    var tooLong = text.length;
+    while (tooLong - end > 1) {
+        var middle = Math.floor((end + tooLong) / 2);
+        if (countLines(text.substr(0, middle), block.width, lines) <= lines)
+            end = middle;
+        else
+            tooLong = middle;
+    }
+    end = Math.max(text.lastIndexOf(" ", end), text.lastIndexOf("\n", end));
+    block.text = text.substr(0, end).replace(/[ \n]+$/, "");
+    block.lines = countLines(block.text, block.width, lines);
+    block.height = block.lines * block.pitch;
+    return wrap(text.substr(end).replace(/^[ \n]+/, ""), block.width, block.pitch);
 }
 
 function drawBlock(x, y, block)
@@ -535,7 +600,7 @@ function drawBlock(x, y, block)
 
 function shortenBlock(block, height)
 {
-    block.lines = Math.max(0, Math.min(block.lines, Math.floor(height / block.pitch + ROUNDING)));
+    block.lines = Math.max(0, Math.min(block.lines, wholeLines(height, block.pitch)));
     block.height = block.lines * block.pitch;
 }
 
@@ -628,13 +693,13 @@ function filledCells(captions, keysAndValues)
 }
 
 // Puts the cells into rows of two, or of one that needs the whole width. A wide one lets the next narrow one go first,
-// so that no hole is left; what is too long even so gets small letters and two rows.
+// so that no hole is left; what is too long even so gets small letters and two rows or more.
 function layOutHeader(cells)
 {
     var header = { rows: [], bottom: HEADER_TOP };
     var addRow = function (first, second) {
         header.rows.push({ cells: second ? [first, second] : [first], top: header.bottom });
-        header.bottom += (first.block ? 2 : 1) * HEADER_ROW_HEIGHT;
+        header.bottom += (first.block ? first.rows : 1) * HEADER_ROW_HEIGHT;
     };
     var single = null;
     var waiting = [];
@@ -669,7 +734,8 @@ function wrapHeaderValue(cell)
         return;
     font(SMALL_SIZE);
     cell.block = wrap(cell.value, HEADER_TEXT_WIDTH, HEADER_SMALL_LINE);
-    shortenBlock(cell.block, 2 * HEADER_ROW_HEIGHT - HEADER_VALUE_TOP);
+    shortenBlock(cell.block, HEADER_MOST_ROWS * HEADER_ROW_HEIGHT - HEADER_VALUE_TOP);
+    cell.rows = Math.max(2, Math.ceil((HEADER_VALUE_TOP + cell.block.height) / HEADER_ROW_HEIGHT));
     font(NORMAL_SIZE);
 }
 
@@ -718,17 +784,17 @@ function drawContinuation(invoice, seller)
 function layOutTable(invoice)
 {
     var path = invoice.path + "items/";
-    var table = { count: numberAt(path + "length"), columns: [], rows: [] };
+    var table = { count: numberAt(path + "length"), columns: [], rows: [], height: 0 };
+    for (var row = 0; row < table.count; row++)
+        table.rows.push({ text: linesAt(path + row + "/text"), isFreeText: isFreeText(path + row + "/") });
     for (var i = 0; i < COLUMNS.length; i++) {
         if (isChosen(COLUMNS[i], invoice)) {
-            var column = readColumn(COLUMNS[i], path, table.count);
+            var column = readColumn(COLUMNS[i], path, table.rows);
             if (!COLUMNS[i].spare || column.longest > 0)
                 table.columns.push(column);
         }
     }
     placeColumns(table, invoice.texts.columns);
-    for (var row = 0; row < table.count; row++)
-        table.rows.push({ text: textAt(path + row + "/text") });
     measureRows(table);
     return table;
 }
@@ -741,15 +807,18 @@ function isChosen(definition, invoice)
 }
 
 // The cells of a column with its width. Numbers are aligned at their decimal comma: `indents` tells how far from the
-// right edge each number ends.
-function readColumn(definition, path, count)
+// right edge each number ends. Rows of free text have nothing but their name.
+function readColumn(definition, path, rows)
 {
     var column = { key: definition.key, numeric: definition.format !== undefined, cells: [], indents: [], longest: 0 };
     var decimals = [];
     var mostDecimals = 0;
-    for (var row = 0; row < count; row++) {
-        var value = column.numeric ? definition.format(get(path + row + "/" + definition.key))
+    for (var row = 0; row < rows.length; row++) {
+        var value = "";
+        if (!rows[row].isFreeText || definition.key == "productName") {
+            value = column.numeric ? definition.format(get(path + row + "/" + definition.key))
                                    : textAt(path + row + "/" + definition.key);
+        }
         var point = column.numeric ? value.indexOf(",") : -1;
         var whole = point < 0 ? value.length : point;
         decimals.push(value.length - whole - (point < 0 ? 0 : 1));
@@ -759,7 +828,7 @@ function readColumn(definition, path, count)
     }
     var digit = DIGIT_EM * ROW_SIZE * POINT;
     var comma = COMMA_EM * ROW_SIZE * POINT;
-    for (var i = 0; i < count && column.numeric; i++)
+    for (var i = 0; i < rows.length && column.numeric; i++)
         column.indents.push((mostDecimals - decimals[i]) * digit + (mostDecimals > 0 && decimals[i] == 0 ? comma : 0));
     column.width = Math.max(definition.least, (column.longest + mostDecimals) * digit + (mostDecimals > 0 ? comma : 0));
     if (definition.most)
@@ -799,16 +868,20 @@ function measureRows(table)
         var column = table.columns[i];
         column.blocks = [];
         for (var row = 0; row < table.count && !column.numeric; row++) {
-            column.blocks.push(wrap(column.cells[row], column.width, ROW_LINE));
-            table.rows[row].height = Math.max(table.rows[row].height || ROW_LINE, column.blocks[row].height);
+            var measured = table.rows[row];
+            var width = measured.isFreeText ? RIGHT_EDGE - column.x : column.width;
+            column.blocks.push(wrap(column.cells[row], width, ROW_LINE));
+            var least = measured.isFreeText && measured.text !== "" ? 0 : ROW_LINE;
+            measured.height = Math.max(measured.height || least, column.blocks[row].height);
         }
     }
     font(SMALL_SIZE);
     table.textX = table.product.x;
     for (var j = 0; j < table.count; j++) {
-        var measured = table.rows[j];
-        measured.text = wrap(measured.text, RIGHT_EDGE - table.textX, ROW_TEXT_LINE);
-        measured.height += measured.text.height + ROW_GAP;
+        var withText = table.rows[j];
+        withText.text = wrap(withText.text, RIGHT_EDGE - table.textX, ROW_TEXT_LINE);
+        withText.height += withText.text.height + ROW_GAP;
+        table.height += withText.height;
     }
 }
 
@@ -871,17 +944,15 @@ function paginate(table, firstTop, closingHeight, footerHeight, hasForm)
         return rowsRoom(page == 0 ? firstTop : CONTINUED_TOP, footerHeight, last && hasForm)
             - (last ? CLOSING_GAP + closingHeight : 0);
     };
-    var left = 0;
-    for (var i = 0; i < table.count; i++)
-        left += limitRow(table, i, room(0, false));
     var pages = [];
     var first = 0;
-    while (left > room(pages.length, true) && (first < table.count || pages.length == 0)) {
+    var placed = 0;
+    while (table.height - placed > room(pages.length, true) && (first < table.count || pages.length == 0)) {
         var end = filledEnd(table, first, room(pages.length, false));
-        if (end == table.count)
-            end = Math.max(Math.min(first + 1, end), end - LEAST_ROWS_ON_LAST_PAGE);
+        if (end == table.count && end > first && !splitRow(table, end - 1, table.rows[end - 1].height - ROUNDING))
+            end = Math.max(first + 1, end - LEAST_ROWS_ON_LAST_PAGE);
         for (var j = first; j < end; j++)
-            left -= table.rows[j].height;
+            placed += table.rows[j].height;
         pages.push({ first: first, end: end });
         first = end;
     }
@@ -889,28 +960,62 @@ function paginate(table, firstTop, closingHeight, footerHeight, hasForm)
     return pages;
 }
 
-// Cuts a row that would not fit on a page, the free text first. Returns the row's height.
-function limitRow(table, row, most)
-{
-    var limited = table.rows[row];
-    if (limited.height > most) {
-        var lines = limited.height - limited.text.height - ROW_GAP;
-        for (var i = 0; i < table.columns.length; i++) {
-            if (!table.columns[i].numeric)
-                shortenBlock(table.columns[i].blocks[row], most - ROW_GAP);
-        }
-        shortenBlock(limited.text, most - ROW_GAP - lines);
-        limited.height = Math.min(lines, most - ROW_GAP) + limited.text.height + ROW_GAP;
-    }
-    return limited.height;
-}
-
+// The end of the rows that a page has room for. A high row that does not fit as a whole is divided.
 function filledEnd(table, first, room)
 {
     var end = first;
-    while (end < table.count && table.rows[end].height <= room)
+    while (end < table.count && (table.rows[end].height <= room || splitRow(table, end, room)))
         room -= table.rows[end++].height;
     return end;
+}
+
+// Divides a high row: what is higher than the room becomes a row of its own behind it, first the free text and, when
+// the names alone need the room, they too. Returns false for a row that is better kept together.
+function splitRow(table, row, room)
+{
+    var split = table.rows[row];
+    if (split.height <= KEPT_TOGETHER)
+        return false;
+    var namesHeight = split.height - split.text.height - ROW_GAP;
+    var textLines = Math.min(split.text.lines - LEAST_LINES, wholeLines(room - ROW_GAP - namesHeight, ROW_TEXT_LINE));
+    var nameLines = wholeLines(namesHeight, ROW_LINE);
+    if (textLines < LEAST_LINES)
+        nameLines = Math.min(nameLines - LEAST_LINES, wholeLines(room - ROW_GAP, ROW_LINE));
+    if (nameLines < LEAST_LINES && textLines < LEAST_LINES)
+        return false;
+    var rest = { text: split.text, height: 0 };
+    font(SMALL_SIZE);
+    if (textLines < LEAST_LINES)
+        split.text = wrap("", rest.text.width, ROW_TEXT_LINE);
+    else
+        rest.text = cutBlock(split.text, textLines);
+    table.height -= split.height;
+    split.height = 0;
+    font(ROW_SIZE);
+    for (var i = 0; i < table.columns.length; i++)
+        splitCell(table.columns[i], row, nameLines, split, rest);
+    split.height = (split.height || Math.min(namesHeight, ROW_LINE)) + split.text.height + ROW_GAP;
+    rest.height += rest.text.height + ROW_GAP;
+    table.height += split.height + rest.height;
+    table.rows.splice(row + 1, 0, rest);
+    table.count++;
+    return true;
+}
+
+function wholeLines(height, pitch) { return Math.floor(height / pitch + ROUNDING); }
+
+// Numbers stay on the first line of the row.
+function splitCell(column, row, lines, split, rest)
+{
+    column.cells.splice(row + 1, 0, "");
+    if (column.numeric) {
+        column.indents.splice(row + 1, 0, 0);
+        return;
+    }
+    var restBlock = cutBlock(column.blocks[row], lines);
+    column.blocks.splice(row + 1, 0, restBlock);
+    split.height = Math.max(split.height, column.blocks[row].height);
+    rest.height = Math.max(rest.height, restBlock.height);
 }
 
 // -------------------------------------------------------------------------------- Notice, VAT breakdown and totals
@@ -1006,12 +1111,13 @@ function layOutFooter(invoice, seller)
     var captions = invoice.texts.footer;
     var footer = { accounts: seller.accounts.slice(0, FOOTER_MOST_LINES), texts: [] };
     footer.columns = [
-        filled([seller.name, seller.streetName, seller.town, prefixed(captions.businessId, seller.businessId)]),
-        filled([prefixed(captions.phone, seller.phoneNumber), seller.emailAddress, seller.webAddressShort,
-                prefixed(captions.vatNumber, seller.vatNumber)])
+        layOutFooterColumn(0, [seller.name, seller.streetName, seller.town,
+                               prefixed(captions.businessId, seller.businessId)]),
+        layOutFooterColumn(1, [prefixed(captions.phone, seller.phoneNumber), seller.emailAddress,
+                               seller.webAddressShort, prefixed(captions.vatNumber, seller.vatNumber)])
     ];
-    var lines = Math.max(footer.columns[0].length, footer.columns[1].length, footer.accounts.length);
-    footer.textTop = FOOTER_PADDING + lines * FOOTER_LINE;
+    footer.textTop = FOOTER_PADDING + Math.max(footer.columns[0].height, footer.columns[1].height,
+                                               footer.accounts.length * FOOTER_LINE);
     footer.textWidth = CONTENT_WIDTH / Math.max(1, seller.footerTexts.length);
     font(SMALL_SIZE);
     var textHeight = 0;
@@ -1024,32 +1130,48 @@ function layOutFooter(invoice, seller)
     return footer;
 }
 
-function filled(values)
+// The filled values below one another. One that is too long gets smaller letters, or else several lines.
+function layOutFooterColumn(column, values)
 {
-    var result = [];
+    var laidOut = { x: FOOTER_COLUMNS[column], blocks: [], height: 0 };
+    var width = FOOTER_COLUMNS[column + 1] - FOOTER_COLUMNS[column] - FOOTER_COLUMN_GAP;
     for (var i = 0; i < values.length; i++) {
-        if (values[i] !== "")
-            result.push(values[i]);
+        var size = SMALL_SIZE;
+        font(size);
+        while (!fits(values[i], width) && size > FOOTER_LEAST_SIZE)
+            font(--size);
+        if (!fits(values[i], width))
+            font(size = SMALL_SIZE);
+        var block = wrap(values[i], width, FOOTER_LINE);
+        shortenBlock(block, FOOTER_MOST_LINES * FOOTER_LINE - laidOut.height);
+        block.size = size;
+        laidOut.blocks.push(block);
+        laidOut.height += block.height;
     }
-    return result;
+    return laidOut;
 }
 
 function drawFooter(footer, bottom)
 {
     var top = bottom - footer.height;
     drawLine(LEFT_MARGIN, top, RIGHT_EDGE, top);
-    font(SMALL_SIZE);
     var y = top + FOOTER_PADDING;
-    for (var column = 0; column < footer.columns.length; column++) {
-        var x = FOOTER_COLUMNS[column];
-        var lines = footer.columns[column];
-        for (var i = 0; i < lines.length; i++)
-            drawFitted(x, y + i * FOOTER_LINE, FOOTER_COLUMNS[column + 1] - x - FOOTER_COLUMN_GAP, lines[i]);
-    }
+    for (var i = 0; i < footer.columns.length; i++)
+        drawFooterColumn(footer.columns[i], y);
+    font(SMALL_SIZE);
     for (var j = 0; j < footer.accounts.length; j++)
         drawAccount(footer.accounts[j], y + j * FOOTER_LINE, FOOTER_COLUMNS[2], FOOTER_IBAN, FOOTER_BIC, RIGHT_EDGE);
     for (var k = 0; k < footer.texts.length; k++)
         drawBlock(LEFT_MARGIN + k * footer.textWidth, top + footer.textTop + FOOTER_PADDING, footer.texts[k]);
+}
+
+function drawFooterColumn(column, y)
+{
+    for (var i = 0; i < column.blocks.length; i++) {
+        font(column.blocks[i].size);
+        drawBlock(column.x, y, column.blocks[i]);
+        y += column.blocks[i].height;
+    }
 }
 
 // Bank, IBAN and BIC on one line. A long IBAN needs the place of the bank's name, or smaller letters: it is never cut.

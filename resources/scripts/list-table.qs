@@ -49,9 +49,12 @@ function convertEach(values, convert) {
     return values;
 }
 
-function texts(values) {
-    return convertEach(values, function (value) { return value == undefined ? "" : String(value); });
+// A row has one line: what would begin another is a blank.
+function oneLine(value) {
+    return value == undefined ? "" : String(value).replace(/[\t\n\r\x0b\x0c\x85\u2028\u2029]+/g, " ");
 }
+
+function texts(values) { return convertEach(values, oneLine); }
 
 function numbers(values) { // -1 stands for none
     return convertEach(values, function (value) { return value == undefined || value < 0 ? "" : String(value); });
@@ -209,10 +212,10 @@ function layOutTable() {
     table.count = count;
     table.rowCount = table.columns.length > 0 ? count : 0;
     table.date = "Tulostettu " + formatDate(currentDate(), "d.M.yyyy");
-    table.seller = fitted(get("name"), width - textWidth(table.date) - HEADER_COLUMN_GAP);
+    table.seller = fitted(oneLine(get("name")), width - textWidth(table.date) - HEADER_COLUMN_GAP);
     table.criteria = [];
     for (var i = 0; i < (get("criteria/length") || 0); ++i)
-        table.criteria.push(fitted(get("criteria/" + i), width));
+        table.criteria.push(fitted(oneLine(get("criteria/" + i)), width));
     table.top = MARGIN_TOP + TITLE_HEIGHT + (1 + table.criteria.length) * HEADER_LINE_HEIGHT + HEADER_GAP;
     return table;
 }

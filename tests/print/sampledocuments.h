@@ -158,6 +158,16 @@ inline Document endless()
     return document;
 }
 
+/** Rows that sell nothing, with a VAT rate of their own, and other line separators than the usual one. */
+inline Document freeTexts()
+{
+    Document document = ordinary();
+    InvoiceItem row = item("", QStringLiteral("Väliotsikko\u2028jatkuu"), 0, "kpl", 0, 0);
+    row.text = QStringLiteral("yksi\u2028kaksi\u2029kolme\vneljä\fviisi");
+    document.items.insert(1, row);
+    return document;
+}
+
 inline Document bare()
 {
     Document document;

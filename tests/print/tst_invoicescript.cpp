@@ -22,6 +22,8 @@ private slots:
     void alignment();
     void barcode_data();
     void barcode();
+    void longTexts_data();
+    void longTexts();
     void oddSettings_data();
     void oddSettings();
     void severalInvoices();
@@ -124,6 +126,16 @@ void InvoiceScriptTest::contents_data()
                              << QStringList{};
     QTest::newRow("texts of more than a page")
         << endless() << 3 << QStringList{"1003", "Yhteensä EUR", "sivu 3/3", "IBAN"} << QStringList{};
+    QTest::newRow("free texts") << freeTexts() << 1
+                                << QStringList{"Väliotsikko jatkuu\n", "yksi\n", "neljä\n", "ALV 25,5.%"}
+                                << QStringList{"kpl"};
+    QTest::newRow("free texts delivered") <<
+        [] {
+            Document d = freeTexts();
+            d.printType = InvoicePrintModel::deliveryNote;
+            return d;
+        }() << 1 << QStringList{"Väliotsikko jatkuu\n"}
+                                          << QStringList{"kpl"};
     QTest::newRow("bare") << bare() << 1 << QStringList{"LASKU", "EUR +0,00"}
                           << QStringList{"Päiväys", "Asiakasnumero", "Kiitos"};
 }
@@ -178,6 +190,45 @@ void InvoiceScriptTest::rowsOnPages()
     QCOMPARE(numbers, expected);
     QCOMPARE(pagesWithRows.size(), rows > 0 ? lastPage : 0);
     QCOMPARE(pageNumbers, lastPage > 1 ? lastPage : 0);
+}
+
+// Every word of a row is printed, in order, on however many pages.
+void InvoiceScriptTest::longTexts_data()
+{
+    QTest::addColumn<int>("row"); ///< of five
+    QTest::addColumn<int>("nameWords");
+    QTest::addColumn<int>("textWords");
+    QTest::newRow("text in the first row") << 0 << 1 << 700;
+    QTest::newRow("text in the last row") << 4 << 1 << 300;
+    QTest::newRow("text of several pages") << 2 << 1 << 3000;
+    QTest::newRow("name") << 1 << 700 << 20;
+}
+
+void InvoiceScriptTest::longTexts()
+{
+    QFETCH(int, row);
+    const auto words = [](QChar letter, int count) {
+        QStringList result;
+        for (int i = 0; i < count; ++i)
+            result << letter + QString::number(10000 + i);
+        return result;
+    };
+    QFETCH(int, nameWords);
+    QFETCH(int, textWords);
+    Document document = Sample::manyRows(5);
+    document.items[row].productName = words('N', nameWords).join(' ');
+    document.items[row].text = words('T', textWords).join(' ');
+    const QString pdf = m_company.print(document);
+    const QVector<Paper::Word> all = Paper::words(pdf);
+    QCOMPARE(Paper::misplaced(all, true), QString());
+    QStringList printed;
+    for (const Paper::Word &word : all) {
+        if (QRegularExpression("^[NT]1\\d{4}$").match(word.text).hasMatch())
+            printed << word.text;
+    }
+    printed.sort(); // names and numbers of a line may be read in any order
+    QCOMPARE(printed, words('N', nameWords) + words('T', textWords));
+    QCOMPARE(Paper::text(pdf).count("Tuote"), Paper::pageCount(pdf));
 }
 
 // Sums end at the right edge. Quantities, which have one digit before the decimal comma, begin at the same place.
@@ -293,8 +344,12 @@ void InvoiceScriptTest::oddSettings_data()
                                       << "-"
                                       << "Tuote"
                                       << "undefined";
-    QTest::newRow("web address") << "seller/webAddress" << QString("x").repeated(80) << "…"
-                                 << "undefined";
+    QTest::newRow("web address") << "seller/webAddress" << QString("x").repeated(80) << "xxx"
+                                 << "…";
+    QTest::newRow("e-mail address, long") << "seller/emailAddress"
+                                          << "etunimi.sukunimi-toinen@erittainpitkanimi.example"
+                                          << "@erittainpitkanimi.example"
+                                          << "…";
     QTest::newRow("footer of ten lines") << "invoiceForm/footer/text2" << QString("a\n").repeated(9) + "z"
                                          << "z"
                                          << "undefined";
