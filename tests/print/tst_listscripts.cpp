@@ -476,6 +476,8 @@ void ListScriptTest::extremes_data()
     QTest::newRow("cut at a blank") << QString("Osuuskunta ").repeated(20) << "Osuuskunta.*[a-z]…";
     QTest::newRow("two lines") << "Virtanen\nja\tpojat"
                                << "Virtanen ja pojat";
+    QTest::newRow("other separators of lines")
+        << QString::fromUtf8(u8"Virtanen\u2028ja\u2029pojat\v\fOy") << "Virtanen ja pojat Oy";
     QTest::newRow("no letters of this font") << QString::fromUtf8(u8"株式会社東京 😀😀").repeated(9) << ".…";
     QTest::newRow("none") << ""
                           << "";
