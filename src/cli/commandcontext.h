@@ -3,33 +3,31 @@
 
 #include "commandstatus.h"
 #include "criteriaparser.h"
-#include "databasesession.h"
 #include "diagnostics.h"
-#include "lastsavedids.h"
-#include "recordfinder.h"
 #include "responsewriter.h"
+#include "usecasecontext.h"
 #include "valueparser.h"
 
 #include <QCoreApplication>
 
+/** What use cases tell this program. A base of the context, so that it is there before they are. */
+struct CommandReports {
+    Diagnostics diagnostics;
+    CommandStatus status{diagnostics};
+};
+
 /** What a command works with. Lives as long as the run. */
-struct CommandContext {
+struct CommandContext : CommandReports, UseCaseContext {
     Q_DECLARE_TR_FUNCTIONS(CommandContext)
 public:
     /** @param outputDescriptor  where the responses go */
     CommandContext(Registry &registry, int outputDescriptor)
-        : response(outputDescriptor), values(status), session(registry, status, diagnostics), finder(session, status),
-          criteria(values, finder)
+        : UseCaseContext(registry, status), response(outputDescriptor), values(status), criteria(values, finder)
     {
     }
 
-    CommandStatus status;
-    Diagnostics diagnostics;
     ResponseWriter response;
     ValueParser values;
-    LastSavedIds lastSaved;
-    DatabaseSession session;
-    RecordFinder finder;
     CriteriaParser criteria;
 };
 

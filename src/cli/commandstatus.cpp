@@ -1,5 +1,8 @@
 #include "commandstatus.h"
 
+#include "diagnostics.h"
+#include "sentences.h"
+
 void CommandStatus::clear()
 {
     command.clear();
@@ -24,6 +27,20 @@ bool CommandStatus::fail(ExitCode code, const QString &message)
 bool CommandStatus::failUnknownParameter(const QString &key)
 {
     return fail(ExitCode::badCommandLine, tr("Virheellinen parametri: %1").arg(key));
+}
+
+bool CommandStatus::fail(Failure::Code code, const QStringList &arguments)
+{
+    lastError = Sentences::text(code, arguments);
+    if (Sentences::exitCode(code) != ExitCode::success)
+        exitCode = static_cast<int>(Sentences::exitCode(code));
+    return false;
+}
+
+void CommandStatus::note(Notice::Code code, const QStringList &arguments)
+{
+    if (m_diagnostics.verbose)
+        m_diagnostics.printDebugMessage(Sentences::text(code, arguments));
 }
 
 QString CommandStatus::prefixedError() const

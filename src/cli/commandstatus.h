@@ -2,14 +2,20 @@
 #define COMMANDSTATUS_H
 
 #include "exitcode.h"
+#include "usecaselistener.h"
 
 #include <QCoreApplication>
 #include <QString>
 
+class Diagnostics;
+
 /** The outcome of the command line being executed: the first failure ends it. */
-class CommandStatus {
+class CommandStatus : public UseCaseListener {
     Q_DECLARE_TR_FUNCTIONS(CommandStatus)
 public:
+    /** @param diagnostics  where notices go; belongs to the caller */
+    explicit CommandStatus(const Diagnostics &diagnostics) : m_diagnostics(diagnostics) {}
+
     QString command; ///< the command's name, in front of its error message; empty for an unknown command
     QString lastError;
     int exitCode = 0;
@@ -26,10 +32,15 @@ public:
     bool fail(ExitCode code, const QString &message);
     bool failUnknownParameter(const QString &key);
 
+    /** Sets the sentence and the exit code that the failure has in this program. @return false */
+    bool fail(Failure::Code code, const QStringList &arguments = {}) override;
+    void note(Notice::Code code, const QStringList &arguments = {}) override;
+
     /** The message as it is answered: behind the command's name and a colon. */
     QString prefixedError() const;
 
 private:
+    const Diagnostics &m_diagnostics;
     bool m_answered = false;
 };
 

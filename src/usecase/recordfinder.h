@@ -1,29 +1,29 @@
 #ifndef RECORDFINDER_H
 #define RECORDFINDER_H
 
-#include <QCoreApplication>
+#include "failure.h"
+
 #include <QString>
 
 class BankAccount;
-class CommandStatus;
 class Customer;
 class DatabaseSession;
 class Invoice;
 class InvoiceItem;
 class Payment;
 class Product;
+class UseCaseListener;
 
 /**
  * Looks up the one record that a parameter names, and copies it into the caller's. A record that is not found or not
- * unique is a failure (exit code 3), with the record unchanged.
+ * unique is a failure, with the record unchanged.
  *
  * Names and product numbers: one exactly equal text wins, else one text that contains the searched one (letter case
  * aside). Kept as it is: two equal texts do not find anything by themselves.
  */
 class RecordFinder {
-    Q_DECLARE_TR_FUNCTIONS(RecordFinder)
 public:
-    RecordFinder(DatabaseSession &session, CommandStatus &status) : m_session(session), m_status(status) {}
+    RecordFinder(DatabaseSession &session, UseCaseListener &listener) : m_session(session), m_listener(listener) {}
 
     [[nodiscard]] bool findBankAccountById(int id, BankAccount *account);
     [[nodiscard]] bool findBankAccountByName(const QString &name, BankAccount *account);
@@ -39,23 +39,24 @@ public:
     [[nodiscard]] bool findPaymentById(int id, Payment *payment);
 
 private:
-    /** The messages of a lookup, with "%1" for the searched text; `several` is empty where the first match counts. */
-    struct Messages {
-        QString notFound;
-        QString several;
+    /** The failures of a lookup by text. */
+    struct TextFailures {
+        Failure::Code unknown;
+        Failure::Code ambiguous;
     };
 
     template <class Record, class Matches>
-    bool findFirst(const QList<Record *> &list, Matches matches, Record *record, const QString &notFound);
+    bool findFirst(const QList<Record *> &list, Matches matches, Record *record, Failure::Code unknown, int searched);
     template <class Record, class Matches>
     bool findByText(const QList<Record *> &list, const QString &text, QString Record::*field, Matches contains,
-                    Record *record, const Messages &messages);
-    template <class Record, class Read> bool readOne(bool fetched, Read read, Record *record, const QString &notFound);
+                    Record *record, const TextFailures &failures);
+    template <class Record, class Read>
+    bool readOne(bool fetched, Read read, Record *record, Failure::Code unknown, int searched);
 
-    bool readCustomer(bool fetched, Customer *customer, const QString &notFound);
+    bool readCustomer(bool fetched, Customer *customer, Failure::Code unknown, int searched);
 
     DatabaseSession &m_session;
-    CommandStatus &m_status;
+    UseCaseListener &m_listener;
 };
 
 #endif

@@ -14,7 +14,7 @@ public:
     WriteTransaction(const WriteTransaction &) = delete;
     WriteTransaction &operator=(const WriteTransaction &) = delete;
 
-    /** False, with the failure in the status, when the database is locked for too long. */
+    /** False, with the failure told, when the database is locked for too long. */
     bool hasBegun() const { return m_open; }
     [[nodiscard]] bool commit();
 

@@ -11,7 +11,7 @@ public:
     ReadTransaction(const ReadTransaction &) = delete;
     ReadTransaction &operator=(const ReadTransaction &) = delete;
 
-    /** False with the failure in the status. */
+    /** False with the failure told. */
     bool hasBegun() const { return m_open; }
 
 private:

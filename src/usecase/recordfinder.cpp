@@ -1,7 +1,6 @@
 #include "recordfinder.h"
 
 #include "bankaccount.h"
-#include "commandstatus.h"
 #include "customer.h"
 #include "databasesession.h"
 #include "invoice.h"
@@ -10,22 +9,24 @@
 #include "payment.h"
 #include "product.h"
 #include "query.h"
+#include "usecaselistener.h"
 
 #include <algorithm>
 
 template <class Record, class Matches>
-bool RecordFinder::findFirst(const QList<Record *> &list, Matches matches, Record *record, const QString &notFound)
+bool RecordFinder::findFirst(const QList<Record *> &list, Matches matches, Record *record, Failure::Code unknown,
+                             int searched)
 {
     const auto it = std::find_if(list.begin(), list.end(), matches);
     if (it == list.end())
-        return m_status.fail(ExitCode::badData, notFound);
+        return m_listener.fail(unknown, {QString::number(searched)});
     *record = **it;
     return true;
 }
 
 template <class Record, class Matches>
 bool RecordFinder::findByText(const QList<Record *> &list, const QString &text, QString Record::*field,
-                              Matches contains, Record *record, const Messages &messages)
+                              Matches contains, Record *record, const TextFailures &failures)
 {
     const Record *exact = nullptr;
     int exactCount = 0;
@@ -49,13 +50,13 @@ bool RecordFinder::findByText(const QList<Record *> &list, const QString &text, 
         }
     }
     if (partialCount != 1)
-        return m_status.fail(ExitCode::badData, (partialCount == 0 ? messages.notFound : messages.several).arg(text));
+        return m_listener.fail(partialCount == 0 ? failures.unknown : failures.ambiguous, {text});
     *record = *partial;
     return true;
 }
 
 template <class Record, class Read>
-bool RecordFinder::readOne(bool fetched, Read read, Record *record, const QString &notFound)
+bool RecordFinder::readOne(bool fetched, Read read, Record *record, Failure::Code unknown, int searched)
 {
     Query *query = m_session.query();
     if (!fetched)
@@ -66,7 +67,7 @@ bool RecordFinder::readOne(bool fetched, Read read, Record *record, const QStrin
         (query->*read)(record);
     }
     query->finish();
-    return found || m_status.fail(ExitCode::badData, notFound);
+    return found || m_listener.fail(unknown, {QString::number(searched)});
 }
 
 bool RecordFinder::findBankAccountById(int id, BankAccount *account)
@@ -74,7 +75,7 @@ bool RecordFinder::findBankAccountById(int id, BankAccount *account)
     return m_session.fetch(CachedList::bankAccounts) &&
            findFirst(
                m_session.registry().bankAccounts(), [id](const BankAccount *a) { return a->id == id; }, account,
-               tr("Pankkitiliä ei löytynyt tunnisteella %1").arg(id));
+               Failure::bankAccountIdUnknown, id);
 }
 
 bool RecordFinder::findBankAccountByName(const QString &name, BankAccount *account)
@@ -84,11 +85,11 @@ bool RecordFinder::findBankAccountByName(const QString &name, BankAccount *accou
     };
     return m_session.fetch(CachedList::bankAccounts) &&
            findByText(m_session.registry().bankAccounts(), name, &BankAccount::name, contains, account,
-                      {tr("Pankkitiliä ei löytynyt nimellä %1"), tr("Nimellä %1 löytyi useita pankkitilejä")});
+                      {Failure::bankAccountNameUnknown, Failure::bankAccountNameAmbiguous});
 }
 
 /** Reads the first customer of a fetch that is not removed. */
-bool RecordFinder::readCustomer(bool fetched, Customer *customer, const QString &notFound)
+bool RecordFinder::readCustomer(bool fetched, Customer *customer, Failure::Code unknown, int searched)
 {
     Query *query = m_session.query();
     if (!fetched)
@@ -105,28 +106,28 @@ bool RecordFinder::readCustomer(bool fetched, Customer *customer, const QString 
     if (failed)
         return m_session.failQuery();
     query->finish();
-    return found || m_status.fail(ExitCode::badData, notFound);
+    return found || m_listener.fail(unknown, {QString::number(searched)});
 }
 
 // Where the list is not read yet, the database is asked for the one: a list grows, an index does not care.
 
 bool RecordFinder::findCustomerById(int id, Customer *customer)
 {
-    const QString notFound = tr("Asiakasta ei löytynyt tunnisteella %1").arg(id);
     if (!m_session.isFetched(CachedList::customers))
-        return readCustomer(m_session.query()->fetchCustomer(id), customer, notFound);
+        return readCustomer(m_session.query()->fetchCustomer(id), customer, Failure::customerIdUnknown, id);
     return findFirst(
-        m_session.registry().customers(), [id](const Customer *c) { return c->id == id; }, customer, notFound);
+        m_session.registry().customers(), [id](const Customer *c) { return c->id == id; }, customer,
+        Failure::customerIdUnknown, id);
 }
 
 bool RecordFinder::findCustomerByNumber(int number, Customer *customer)
 {
-    const QString notFound = tr("Asiakasta ei löytynyt numerolla %1").arg(number);
     if (!m_session.isFetched(CachedList::customers))
-        return readCustomer(m_session.query()->fetchCustomersByNumber(number), customer, notFound);
+        return readCustomer(m_session.query()->fetchCustomersByNumber(number), customer, Failure::customerNumberUnknown,
+                            number);
     return findFirst(
         m_session.registry().customers(), [number](const Customer *c) { return c->number == number; }, customer,
-        notFound);
+        Failure::customerNumberUnknown, number);
 }
 
 bool RecordFinder::findCustomerByName(const QString &name, Customer *customer)
@@ -134,7 +135,7 @@ bool RecordFinder::findCustomerByName(const QString &name, Customer *customer)
     const auto contains = [](const Customer &c, const QString &text) { return c.name.toLower().contains(text); };
     return m_session.fetch(CachedList::customers) &&
            findByText(m_session.registry().customers(), name, &Customer::name, contains, customer,
-                      {tr("Asiakasta ei löytynyt nimellä %1"), tr("Nimellä %1 löytyi useita asiakkaita")});
+                      {Failure::customerNameUnknown, Failure::customerNameAmbiguous});
 }
 
 bool RecordFinder::findProductById(int id, Product *product)
@@ -142,7 +143,7 @@ bool RecordFinder::findProductById(int id, Product *product)
     return m_session.fetch(CachedList::products) &&
            findFirst(
                m_session.registry().products(), [id](const Product *p) { return p->id == id; }, product,
-               tr("Tuotetta ei löytynyt tunnisteella %1").arg(id));
+               Failure::productIdUnknown, id);
 }
 
 bool RecordFinder::findProductByNumber(const QString &number, Product *product)
@@ -150,7 +151,7 @@ bool RecordFinder::findProductByNumber(const QString &number, Product *product)
     const auto contains = [](const Product &p, const QString &text) { return p.number.toLower().contains(text); };
     return m_session.fetch(CachedList::products) &&
            findByText(m_session.registry().products(), number, &Product::number, contains, product,
-                      {tr("Tuotetta ei löytynyt numerolla %1"), tr("Numerolla %1 löytyi useita tuotteita")});
+                      {Failure::productNumberUnknown, Failure::productNumberAmbiguous});
 }
 
 bool RecordFinder::findProductByName(const QString &name, Product *product)
@@ -158,33 +159,32 @@ bool RecordFinder::findProductByName(const QString &name, Product *product)
     const auto contains = [](const Product &p, const QString &text) { return p.name.toLower().contains(text); };
     return m_session.fetch(CachedList::products) &&
            findByText(m_session.registry().products(), name, &Product::name, contains, product,
-                      {tr("Tuotetta ei löytynyt nimellä %1"), tr("Nimellä %1 löytyi useita tuotteita")});
+                      {Failure::productNameUnknown, Failure::productNameAmbiguous});
 }
 
 bool RecordFinder::findInvoiceById(int id, Invoice *invoice)
 {
     return readOne(m_session.query()->fetchInvoiceDetails(id), &Query::invoiceDetails, invoice,
-                   tr("Laskua ei löytynyt tunnisteella %1").arg(id));
+                   Failure::invoiceIdUnknown, id);
 }
 
 bool RecordFinder::findInvoiceByNumber(int number, Invoice *invoice)
 {
-    const QString notFound = tr("Laskua ei löytynyt numerolla %1").arg(number);
     if (number < 0) // no invoice has such a number, and a search would take it for "any"
-        return m_status.fail(ExitCode::badData, notFound);
+        return m_listener.fail(Failure::invoiceNumberUnknown, {QString::number(number)});
     InvoiceCriteria criteria;
     criteria.number = number;
-    return readOne(m_session.query()->fetchInvoiceDetails(&criteria), &Query::invoiceDetails, invoice, notFound);
+    return readOne(m_session.query()->fetchInvoiceDetails(&criteria), &Query::invoiceDetails, invoice,
+                   Failure::invoiceNumberUnknown, number);
 }
 
 bool RecordFinder::findInvoiceItemById(int id, InvoiceItem *item)
 {
-    return readOne(m_session.query()->fetchInvoiceItem(id), &Query::invoiceItem, item,
-                   tr("Laskuriviä ei löytynyt tunnisteella %1").arg(id));
+    return readOne(m_session.query()->fetchInvoiceItem(id), &Query::invoiceItem, item, Failure::invoiceItemIdUnknown,
+                   id);
 }
 
 bool RecordFinder::findPaymentById(int id, Payment *payment)
 {
-    return readOne(m_session.query()->fetchPayment(id), &Query::payment, payment,
-                   tr("Maksusuoritusta ei löytynyt tunnisteella %1").arg(id));
+    return readOne(m_session.query()->fetchPayment(id), &Query::payment, payment, Failure::paymentIdUnknown, id);
 }

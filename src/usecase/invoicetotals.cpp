@@ -1,16 +1,16 @@
 #include "invoicetotals.h"
 
-#include "commandcontext.h"
 #include "invoice.h"
 #include "invoiceitem.h"
 #include "payment.h"
 #include "query.h"
+#include "usecasecontext.h"
 
 #include <limits>
 
 namespace {
 
-InvoiceTotals::Outcome failQuery(CommandContext &context)
+InvoiceTotals::Outcome failQuery(UseCaseContext &context)
 {
     context.session.failQuery();
     return InvoiceTotals::Outcome::failed;
@@ -23,7 +23,7 @@ bool fitsIntoCents(long long sum)
 
 } // namespace
 
-InvoiceTotals::Outcome InvoiceTotals::updateInvoice(CommandContext &context, int invoiceId)
+InvoiceTotals::Outcome InvoiceTotals::updateInvoice(UseCaseContext &context, int invoiceId)
 {
     Invoice invoice;
     if (!context.finder.findInvoiceById(invoiceId, &invoice))
@@ -53,16 +53,16 @@ InvoiceTotals::Outcome InvoiceTotals::updateInvoice(CommandContext &context, int
         return failQuery(context);
 
     if (!fitsIntoCents(amount) || !fitsIntoCents(balance)) {
-        context.status.fail(ExitCode::badData, CommandContext::tr("Laskun loppusumma on liian suuri"));
+        context.listener.fail(Failure::invoiceTotalTooLarge);
         return Outcome::tooLarge;
     }
     invoice.totalAmount = static_cast<int>(amount);
     invoice.balance = static_cast<int>(balance);
-    context.diagnostics.printDebugMessage(CommandContext::tr("Tallennetaan laskun %1 tiedot").arg(invoice.number));
+    context.listener.note(Notice::savingInvoice, {QString::number(invoice.number)});
     return query->saveInvoice(&invoice) ? Outcome::updated : failQuery(context);
 }
 
-InvoiceTotals::Outcome InvoiceTotals::updateInvoices(CommandContext &context, int invoiceId, int earlierInvoiceId)
+InvoiceTotals::Outcome InvoiceTotals::updateInvoices(UseCaseContext &context, int invoiceId, int earlierInvoiceId)
 {
     const Outcome outcome = updateInvoice(context, invoiceId);
     const bool moved = earlierInvoiceId >= 0 && earlierInvoiceId != invoiceId;

@@ -1,11 +1,10 @@
 #include "databasesession.h"
 
-#include "commandstatus.h"
 #include "customer.h"
-#include "diagnostics.h"
 #include "postgresqldatabase.h"
 #include "query.h"
 #include "sqlitedatabase.h"
+#include "usecaselistener.h"
 
 #include <QSettings>
 
@@ -22,8 +21,8 @@ constexpr int fewCustomers = 50;
 
 } // namespace
 
-DatabaseSession::DatabaseSession(Registry &registry, CommandStatus &status, Diagnostics &diagnostics)
-    : m_registry(registry), m_status(status), m_diagnostics(diagnostics)
+DatabaseSession::DatabaseSession(Registry &registry, UseCaseListener &listener)
+    : m_registry(registry), m_listener(listener)
 {
 }
 
@@ -71,9 +70,7 @@ bool DatabaseSession::openDatabase(int number, bool onlyIfClosed)
     m_lostNumber.reset();
     const int index = findDatabaseIndex(number);
     if (index < 0) {
-        // The exit code stays: a data command without any database answers nothing.
-        m_status.lastError = tr("Tietokanta-asetuksia ei löytynyt");
-        return false;
+        return m_listener.fail(Failure::noDatabaseListed);
     }
 
     QSettings *settings = m_registry.appSettings();
@@ -83,11 +80,10 @@ bool DatabaseSession::openDatabase(int number, bool onlyIfClosed)
     const QString filename = settings->value(QStringLiteral("filename")).toString();
     const QString type = settings->value(QStringLiteral("type"), QStringLiteral("sqlite")).toString();
     if (type.compare(QLatin1String("postgresql"), Qt::CaseInsensitive) == 0) {
-        m_diagnostics.printDebugMessage(
-            tr("Avataan PostgreSQL-tietokanta %1").arg(settings->value(QStringLiteral("databaseName")).toString()));
+        m_listener.note(Notice::openingPostgresql, {settings->value(QStringLiteral("databaseName")).toString()});
         m_database = std::make_unique<PostgreSQLDatabase>();
     } else {
-        m_diagnostics.printDebugMessage(tr("Avataan SQLite-tietokanta %1").arg(filename));
+        m_listener.note(Notice::openingSqlite, {filename});
         m_database = std::make_unique<SQLiteDatabase>();
     }
     m_database->setCreateIfNotExist(false);
@@ -96,8 +92,10 @@ bool DatabaseSession::openDatabase(int number, bool onlyIfClosed)
     settings->endGroup();
 
     if (!opened || !m_database->exists()) {
-        m_status.fail(ExitCode::databaseFailure,
-                      opened ? tr("Tietokantaa ei löytynyt: %1").arg(filename) : m_database->lastError());
+        if (opened)
+            m_listener.fail(Failure::databaseMissing, {filename});
+        else
+            m_listener.fail(Failure::database, {m_database->lastError()});
         closeDatabase();
         return false;
     }
@@ -170,11 +168,11 @@ void DatabaseSession::invalidateIfChanged()
 bool DatabaseSession::failQuery()
 {
     m_isSuspect = true;
-    return m_status.fail(ExitCode::databaseFailure, m_query->lastError());
+    return m_listener.fail(Failure::database, {m_query->lastError()});
 }
 
 bool DatabaseSession::failDatabase()
 {
     m_isSuspect = true;
-    return m_status.fail(ExitCode::databaseFailure, m_database->lastError());
+    return m_listener.fail(Failure::database, {m_database->lastError()});
 }

@@ -3,35 +3,32 @@
 
 #include "registry.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <memory>
 #include <optional>
 
-class CommandStatus;
 class Database;
-class Diagnostics;
 class Query;
+class UseCaseListener;
 
 /** The lists that are read once per database and then kept in the registry. */
 enum class CachedList { bankAccounts, customers, products, settings, printScripts };
 
 /**
  * The database that commands work on: chosen from the settings file's list, opened when a command first needs it, with
- * the lists that are read from it once. Failures go to the command status.
+ * the lists that are read from it once. Failures go to the listener.
  */
 class DatabaseSession {
-    Q_DECLARE_TR_FUNCTIONS(DatabaseSession)
 public:
-    /** All three belong to the caller and outlive the session. */
-    DatabaseSession(Registry &registry, CommandStatus &status, Diagnostics &diagnostics);
+    /** Both belong to the caller and outlive the session. */
+    DatabaseSession(Registry &registry, UseCaseListener &listener);
     ~DatabaseSession();
 
     /**
      * @param number        the database's number in the list; below 1 the last used one
      * @param onlyIfClosed  keep a database that is open already
-     * @return false with the reason in the status; when the list has no such database, the exit code stays as it was
+     * @return false with the failure told; noDatabaseListed when the list has no such database
      */
     [[nodiscard]] bool openDatabase(int number, bool onlyIfClosed);
     /** What every data command does first. A server connection that was lost is made anew. */
@@ -59,9 +56,9 @@ public:
     /** Before a list is changed: what others have changed since it was read must not be overwritten. */
     void invalidateIfChanged();
 
-    /** The query's error as the status, database failure. */
+    /** Tells the query's error. @return false */
     bool failQuery();
-    /** The database's error likewise. */
+    /** Tells the database's error. @return false */
     bool failDatabase();
 
 private:
@@ -75,8 +72,7 @@ private:
     int findDatabaseIndex(int number) const;
 
     Registry &m_registry;
-    CommandStatus &m_status;
-    Diagnostics &m_diagnostics;
+    UseCaseListener &m_listener;
     std::unique_ptr<Database> m_database;
     std::unique_ptr<Query> m_query;
     ListState m_lists[listCount];

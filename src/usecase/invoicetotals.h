@@ -1,7 +1,7 @@
 #ifndef INVOICETOTALS_H
 #define INVOICETOTALS_H
 
-struct CommandContext;
+struct UseCaseContext;
 
 /** An invoice's stored total and balance, recomputed from its rows and payments. */
 namespace InvoiceTotals {
@@ -12,14 +12,14 @@ enum class Outcome {
     tooLarge, ///< beyond 32 bits of cents: what was saved before must be taken back
 };
 
-/** Recomputes and saves the total and the balance; a failure is in the status, with nothing changed. */
-[[nodiscard]] Outcome updateInvoice(CommandContext &context, int invoiceId);
+/** Recomputes and saves the total and the balance; a failure is told, with nothing changed. */
+[[nodiscard]] Outcome updateInvoice(UseCaseContext &context, int invoiceId);
 
 /**
  * The same for the invoice of a saved row or payment, and for the one that it was moved away from.
  * @param earlierInvoiceId  -1 for a new record; may be the same
  */
-[[nodiscard]] Outcome updateInvoices(CommandContext &context, int invoiceId, int earlierInvoiceId);
+[[nodiscard]] Outcome updateInvoices(UseCaseContext &context, int invoiceId, int earlierInvoiceId);
 
 } // namespace InvoiceTotals
 

@@ -20,7 +20,7 @@ public:
 
     /**
      * Matches payments, in the order of the file, and sets their results. Nothing is written.
-     * @return false, with the failure in the command status, when the database cannot be read
+     * @return false, with the failure told, when the database cannot be read
      */
     [[nodiscard]] bool match(QVector<ImportedPayment> &payments);
     /** Writes the payments that match() found new; for use in a transaction. @return false as match() */

@@ -1,0 +1,40 @@
+#ifndef FAILURE_H
+#define FAILURE_H
+
+/**
+ * Why a use case did not do its work. A code has no words: each front end has a sentence (and an exit code) for it,
+ * with the arguments named here in its place holders.
+ */
+namespace Failure {
+
+enum Code {
+    // The database
+    database,         ///< the reason in the database's own words
+    noDatabaseListed, ///< no database is configured, or none of the wanted number
+    databaseMissing,  ///< file name
+
+    // A record that was named: what was searched
+    bankAccountIdUnknown,
+    bankAccountNameUnknown,
+    bankAccountNameAmbiguous,
+    customerIdUnknown,
+    customerNumberUnknown,
+    customerNameUnknown,
+    customerNameAmbiguous,
+    productIdUnknown,
+    productNumberUnknown,
+    productNumberAmbiguous,
+    productNameUnknown,
+    productNameAmbiguous,
+    invoiceIdUnknown,
+    invoiceNumberUnknown,
+    invoiceItemIdUnknown,
+    paymentIdUnknown,
+
+    // Rules
+    invoiceTotalTooLarge, ///< total or balance beyond 32 bits of cents
+};
+
+} // namespace Failure
+
+#endif

@@ -1,0 +1,15 @@
+#ifndef NOTICE_H
+#define NOTICE_H
+
+/** What a use case tells of its work on the way, for those who want to follow it. Without words, as a Failure. */
+namespace Notice {
+
+enum Code {
+    openingSqlite,     ///< file name
+    openingPostgresql, ///< database name
+    savingInvoice,     ///< number
+};
+
+} // namespace Notice
+
+#endif
