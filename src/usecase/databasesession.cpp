@@ -6,6 +6,7 @@
 #include "sqlitedatabase.h"
 #include "usecaselistener.h"
 
+#include <QFileInfo>
 #include <QSettings>
 
 namespace {
@@ -69,14 +70,35 @@ bool DatabaseSession::openDatabase(int number, bool onlyIfClosed)
     m_number = number;
     m_lostNumber.reset();
     const int index = findDatabaseIndex(number);
-    if (index < 0) {
+    if (index < 0)
         return m_listener.fail(Failure::noDatabaseListed);
-    }
 
     QSettings *settings = m_registry.appSettings();
     settings->beginGroup(QStringLiteral("databases"));
     settings->beginReadArray(QStringLiteral("settings"));
     settings->setArrayIndex(index);
+    const bool opened = openAt(settings);
+    settings->endArray();
+    settings->endGroup();
+    return opened;
+}
+
+bool DatabaseSession::openFile(const QString &fileName)
+{
+    closeDatabase();
+    m_lostNumber.reset();
+    // A backend reads the keys of a settings object; this one is never written anywhere.
+    static const QSettings::Format unwritten = QSettings::registerFormat(
+        QStringLiteral("unwritten"), [](QIODevice &, QSettings::SettingsMap &) { return true; },
+        [](QIODevice &, const QSettings::SettingsMap &) { return true; });
+    QSettings settings(QString(), unwritten);
+    settings.setValue(QStringLiteral("filename"), QFileInfo(fileName).absoluteFilePath());
+    return openAt(&settings);
+}
+
+/** Opens the database whose keys the settings object is positioned on. */
+bool DatabaseSession::openAt(QSettings *settings)
+{
     const QString filename = settings->value(QStringLiteral("filename")).toString();
     const QString type = settings->value(QStringLiteral("type"), QStringLiteral("sqlite")).toString();
     if (type.compare(QLatin1String("postgresql"), Qt::CaseInsensitive) == 0) {
@@ -88,9 +110,6 @@ bool DatabaseSession::openDatabase(int number, bool onlyIfClosed)
     }
     m_database->setCreateIfNotExist(false);
     const bool opened = m_database->open(settings);
-    settings->endArray();
-    settings->endGroup();
-
     if (!opened || !m_database->exists()) {
         if (opened)
             m_listener.fail(Failure::databaseMissing, {filename});

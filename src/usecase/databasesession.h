@@ -9,6 +9,7 @@
 #include <optional>
 
 class Database;
+class QSettings;
 class Query;
 class UseCaseListener;
 
@@ -31,6 +32,8 @@ public:
      * @return false with the failure told; noDatabaseListed when the list has no such database
      */
     [[nodiscard]] bool openDatabase(int number, bool onlyIfClosed);
+    /** Opens an SQLite file that need not be on the list. @return false with the failure told */
+    [[nodiscard]] bool openFile(const QString &fileName);
     /** What every data command does first. A server connection that was lost is made anew. */
     [[nodiscard]] bool ensureOpen();
     void closeDatabase();
@@ -56,6 +59,13 @@ public:
     /** Before a list is changed: what others have changed since it was read must not be overwritten. */
     void invalidateIfChanged();
 
+    /**
+     * A trial: what is written is taken back in place of being committed, an older schema is refused in place of being
+     * upgraded.
+     */
+    void setTrial(bool isTrial) { m_isTrial = isTrial; }
+    bool isTrial() const { return m_isTrial; }
+
     /** Tells the query's error. @return false */
     bool failQuery();
     /** Tells the database's error. @return false */
@@ -70,6 +80,7 @@ private:
     };
 
     int findDatabaseIndex(int number) const;
+    bool openAt(QSettings *settings);
 
     Registry &m_registry;
     UseCaseListener &m_listener;
@@ -78,6 +89,7 @@ private:
     ListState m_lists[listCount];
     int m_number = -1;               ///< what the open database was asked for by
     bool m_isSuspect = false;        ///< a statement failed: the connection may be gone
+    bool m_isTrial = false;
     std::optional<int> m_lostNumber; ///< as m_number, of a database whose connection is gone
 };
 

@@ -24,7 +24,7 @@ WriteTransaction::~WriteTransaction()
 bool WriteTransaction::commit()
 {
     m_session.query()->finish();
-    m_open = !m_session.database()->commit();
+    m_open = m_session.isTrial() ? !m_session.database()->rollback() : !m_session.database()->commit();
     if (!m_open)
         return true;
     return m_session.failDatabase();

@@ -1,0 +1,94 @@
+#ifndef ANSWER_H
+#define ANSWER_H
+
+#include "field.h"
+#include "jsonwriter.h"
+#include "tablewriter.h"
+
+#include <QStringList>
+#include <QVector>
+
+#include <functional>
+#include <memory>
+
+class ProblemSink;
+
+enum class OutputForm { text, json, jsonl, csv };
+
+/** How the answer of a command is written. */
+struct AnswerOptions {
+    OutputForm form = OutputForm::text;
+    bool quiet = false;      ///< only the handle of each record
+    bool isTerminal = false; ///< people read it: aligned, their numbers and dates
+    bool hasColor = false;
+    int width = 80;       ///< of the terminal, columns
+    QStringList fields;   ///< the ones asked for, empty for the usual ones
+    bool full = false;    ///< all fields in a list, too
+    bool isDryRun = false;
+};
+
+/**
+ * What a command answers, in any of the forms. A list is written as it is read, in large pieces; until the first piece
+ * is written, take() can take everything back.
+ */
+class Answer {
+public:
+    /** Takes bytes of the answer. @return false when nobody reads any more */
+    using Sink = std::function<bool(const QByteArray &)>;
+
+    Answer(const AnswerOptions &options, Sink sink);
+
+    const AnswerOptions &options() const { return m_options; }
+    bool isText() const { return m_options.form == OutputForm::text && !m_options.quiet; }
+    /** Whether sentences for people are wanted. */
+    bool wantsSentences() const { return isText() && m_options.fields.isEmpty(); }
+    /** Marks the answer as given before: the record is told as it is now. */
+    void setReplayed() { m_isReplayed = true; }
+
+    /** Begins a list. @return false, with the problem told, when a wanted field is none of the table's */
+    [[nodiscard]] bool beginList(const RecordTable &table, ProblemSink &sink);
+    /** Whether the list shows a field with the flag, as those that need the rows of an invoice. */
+    bool shows(Field::Flag flag) const;
+    /** @return false when nobody reads any more */
+    bool add(const void *record);
+    void endList();
+
+    /** A single record, whole. @return as beginList() */
+    [[nodiscard]] bool show(const RecordTable &table, const void *record, ProblemSink &sink);
+    /** What a writing command answers with: a sentence for people, the whole record for programs. */
+    [[nodiscard]] bool saved(const RecordTable &table, const void *record, const QString &sentence, ProblemSink &sink);
+    /** An answer without a table: JSON members in the machine forms, a sentence for people. */
+    void object(const std::function<void(JsonWriter &)> &members, const QString &sentence);
+    /** A line of text for people. */
+    void line(const QString &text);
+    /** What to do next; only a person at a terminal is told. */
+    void hint(const QString &text);
+
+    /** Writes what is gathered. @return false when nobody reads any more */
+    bool flush();
+    /** Takes back what is not written yet. @return whether everything could be taken back */
+    bool take();
+    bool isReaderGone() const { return m_isReaderGone; }
+
+private:
+    bool choose(const RecordTable &table, bool whole, ProblemSink &sink);
+    void chooseUsual(const RecordTable &table, bool whole);
+    void writeCsvLine(const std::function<QString(const Field &)> &cell);
+    void writeRecord(const void *record);
+    void showForPeople(const RecordTable &table, const void *record);
+    QString handleOf(const void *record) const;
+    void endMembers(JsonWriter &json) const;
+
+    AnswerOptions m_options;
+    Sink m_sink;
+    QByteArray m_buffer;
+    const RecordTable *m_table = nullptr;
+    QVector<const Field *> m_fields; ///< chosen, in the order of the output
+    std::unique_ptr<TableWriter> m_columns;
+    bool m_isFirst = true;
+    bool m_wasWritten = false;
+    bool m_isReaderGone = false;
+    bool m_isReplayed = false;
+};
+
+#endif

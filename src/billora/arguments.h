@@ -1,0 +1,36 @@
+#ifndef ARGUMENTS_H
+#define ARGUMENTS_H
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <QVector>
+
+/**
+ * What a command was given: texts by the names of its fields and options (lowerCamelCase), whether they came as words,
+ * in an editor or as JSON.
+ */
+class Arguments {
+public:
+    bool has(const QString &name) const { return m_values.contains(name); }
+    bool has(const char *name) const { return has(QLatin1String(name)); }
+    /** The value, null when not given; of a repeated option the last. */
+    QString text(const QString &name) const { return m_values.value(name).isEmpty() ? QString() : m_values.value(name).last(); }
+    QString text(const char *name) const { return text(QString(QLatin1String(name))); }
+    QStringList texts(const char *name) const { return m_values.value(QLatin1String(name)); }
+    void add(const QString &name, const QString &value)
+    {
+        m_values[name].append(value.isNull() ? QStringLiteral("") : value);
+    }
+    void remove(const char *name) { m_values.remove(QLatin1String(name)); }
+    QStringList names() const { return m_values.keys(); }
+    bool isEmpty() const { return m_values.isEmpty() && rows.isEmpty(); }
+
+    /** The rows of an invoice, each with the fields of a row and `product`. */
+    QVector<Arguments> rows;
+
+private:
+    QHash<QString, QStringList> m_values;
+};
+
+#endif

@@ -1,0 +1,18 @@
+#ifndef FAILURESENTENCES_H
+#define FAILURESENTENCES_H
+
+#include "failure.h"
+#include "notice.h"
+#include "problem.h"
+
+#include <QStringList>
+
+/** What the use cases' codes are in the words of this program, see also Failure. */
+namespace FailureSentences {
+
+Problem problem(Failure::Code code, const QStringList &arguments);
+QString text(Notice::Code code, const QStringList &arguments);
+
+} // namespace FailureSentences
+
+#endif

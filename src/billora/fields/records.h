@@ -1,0 +1,74 @@
+#ifndef RECORDS_H
+#define RECORDS_H
+
+#include "bankaccount.h"
+#include "customer.h"
+#include "field.h"
+#include "invoice.h"
+#include "invoiceitem.h"
+#include "payment.h"
+#include "product.h"
+
+#include <QVector>
+
+// What the field tables read: records of the database with what belongs to them.
+
+struct CustomerRecord {
+    Customer customer;
+    int openCount = 0;         ///< invoices with a balance
+    long long openBalance = 0; ///< cents
+};
+
+struct AccountRecord {
+    BankAccount account;
+};
+
+struct ProductRecord {
+    Product product;
+};
+
+struct PaymentRecord {
+    Payment payment;
+    int invoiceNumber = 0;
+    QString accountName; ///< null for none
+};
+
+struct RowRecord {
+    InvoiceItem item;
+    int position = 0;    ///< on its invoice, from 1
+    int productId = -1;  ///< of the product with its number, -1 for none
+    long long net = 0;   ///< cents
+    long long total = 0; ///< with VAT, cents
+};
+
+/** An invoice's sums of one VAT rate, cents. */
+struct VatRateRecord {
+    int vatRate = 0; ///< hundredths of a percent
+    long long net = 0, vat = 0, total = 0;
+};
+
+struct InvoiceRecord {
+    Invoice invoice;
+    int customerNumber = -1;
+    QString customerName;
+    QDate today; ///< what is overdue counts from
+    // Only where the rows are wanted:
+    long long net = 0, vat = 0;
+    QVector<VatRateRecord> vatRates;
+    QVector<RowRecord> rows;
+    QVector<PaymentRecord> payments;
+};
+
+/** The words of invoice types, in the order of Invoice::Type; null ends them. */
+extern const Choice invoiceTypes[];
+extern const Choice *const invoiceStates;
+
+extern const RecordTable customerTable;
+extern const RecordTable productTable;
+extern const RecordTable accountTable;
+extern const RecordTable paymentTable;
+extern const RecordTable rowTable;
+extern const RecordTable vatRateTable;
+extern const RecordTable invoiceTable;
+
+#endif

@@ -1,0 +1,60 @@
+#include "fieldgetters.h"
+#include "fieldsetters.h"
+#include "records.h"
+#include "texts.h"
+
+namespace {
+
+using R = RowRecord;
+constexpr auto part = &R::item;
+constexpr unsigned shown = Field::summary;
+constexpr unsigned edited = shown | Field::editable;
+
+template <auto setPrice>
+bool price(void *record, const ValueReader &reader, const Field &field, const QString &value)
+{
+    long long amount = 0;
+    if (!reader.number(field.name, field.type, value, amount))
+        return false;
+    (static_cast<InvoiceItem *>(record)->*setPrice)(amount);
+    return true;
+}
+
+/** A row without a product has none. */
+Value productNumber(const void *record)
+{
+    const QString &number = static_cast<const R *>(record)->item.productNumber;
+    return number.isEmpty() ? Value() : Value(number);
+}
+
+constexpr Field fields[] = {
+    {"row", ValueType::integer, TEXT("Rivi"), TEXT("paikka laskulla, ensimmäinen on 1"), shown | Field::handle, value<&R::position>},
+    {"id", ValueType::id, TEXT("Tunniste"), nullptr, shown, partValue<part, &InvoiceItem::id>, nullptr, nullptr, nullptr, "id"},
+    {"product", ValueType::text, TEXT("Tuote"), TEXT("tuotenumero"), shown, productNumber, nullptr, nullptr, nullptr, "productNumber"},
+    {"name", ValueType::text, TEXT("Nimi"), TEXT("tuotteen nimi tällä rivillä"), edited, partValue<part, &InvoiceItem::productName>, setMember<InvoiceItem, &InvoiceItem::productName>, nullptr, nullptr, "productName"},
+    {"quantity", ValueType::quantity, TEXT("Määrä"), nullptr, edited, partValue<part, &InvoiceItem::quantity>, setMember<InvoiceItem, &InvoiceItem::quantity>, nullptr, nullptr, "quantity"},
+    {"unit", ValueType::text, TEXT("Yksikkö"), nullptr, edited | Field::clearable, partValue<part, &InvoiceItem::unitCode>, setMember<InvoiceItem, &InvoiceItem::unitCode>, nullptr, nullptr, "unitCode"},
+    {"price", ValueType::price, TEXT("Hinta"), TEXT("yksikköhinta ilman arvonlisäveroa"), edited, partValue<part, &InvoiceItem::amountVatExcluded>, price<&InvoiceItem::setAmountVatExcluded>, nullptr, nullptr, "amountVatExcluded"},
+    {"priceWithVat", ValueType::price, TEXT("Verollinen hinta"), TEXT("yksikköhinta arvonlisäveroineen"), edited, partValue<part, &InvoiceItem::amountVatIncluded>, price<&InvoiceItem::setAmountVatIncluded>, nullptr, nullptr, "amountVatIncluded"},
+    {"priceIncludesVat", ValueType::flag, TEXT("Hinta sisältää veron"), nullptr, shown, [](const void *r) { return Value(!static_cast<const R *>(r)->item.vatExcluded); }},
+    {"vatRate", ValueType::percent, TEXT("Vero-%"), TEXT("arvonlisäveroprosentti"), edited, partValue<part, &InvoiceItem::vatRate>, setMember<InvoiceItem, &InvoiceItem::vatRate>, nullptr, nullptr, "vatRate"},
+    {"discount", ValueType::percent, TEXT("Alennus-%"), nullptr, edited | Field::clearable, partValue<part, &InvoiceItem::discount>, setMember<InvoiceItem, &InvoiceItem::discount>, nullptr, nullptr, "discount"},
+    {"text", ValueType::text, TEXT("Teksti"), TEXT("vapaa teksti rivin alle"), edited | Field::clearable | Field::multiline, partValue<part, &InvoiceItem::text>, setMember<InvoiceItem, &InvoiceItem::text>, nullptr, nullptr, "text"},
+    {"net", ValueType::money, TEXT("Veroton"), nullptr, shown, value<&R::net>},
+    {"total", ValueType::money, TEXT("Summa"), nullptr, shown, value<&R::total>},
+};
+
+constexpr Field rateFields[] = {
+    {"vatRate", ValueType::percent, TEXT("Vero-%"), nullptr, shown, value<&VatRateRecord::vatRate>},
+    {"net", ValueType::money, TEXT("Veroton"), nullptr, shown | Field::summed, value<&VatRateRecord::net>},
+    {"vat", ValueType::money, TEXT("Vero"), nullptr, shown | Field::summed, value<&VatRateRecord::vat>},
+    {"total", ValueType::money, TEXT("Summa"), nullptr, shown | Field::summed, value<&VatRateRecord::total>},
+};
+
+} // namespace
+
+const RecordTable rowTable = {"row", fields, sizeof fields / sizeof fields[0],
+                              "row,product,name,quantity,unit,price,vatRate,discount,total,text"};
+
+const RecordTable vatRateTable = {"vatRate", rateFields, sizeof rateFields / sizeof rateFields[0],
+                                  "vatRate,net,vat,total"};

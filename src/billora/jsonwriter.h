@@ -1,0 +1,45 @@
+#ifndef JSONWRITER_H
+#define JSONWRITER_H
+
+#include "field.h"
+
+#include <QByteArray>
+#include <QVector>
+
+/** Appends strict JSON (RFC 8259) in UTF-8 to a buffer, as it is told; nothing is held. */
+class JsonWriter {
+public:
+    /** @param target  belongs to the caller */
+    explicit JsonWriter(QByteArray &target) : m_target(target) {}
+
+    void beginObject();
+    void endObject();
+    void beginArray();
+    void endArray();
+    void name(const char *name);
+    void string(const QString &value);
+    void number(long long value);
+    void boolean(bool value);
+    void null();
+
+    // A member of the current object.
+    void member(const char *key, const QString &value);
+    void member(const char *key, const char *value) { member(key, QString::fromUtf8(value)); }
+    void member(const char *key, int value);
+    void member(const char *key, bool value);
+
+    /** The chosen fields of a record as members of the current object; `a.b` makes an object `a`. */
+    void members(const QVector<const Field *> &fields, const void *record);
+    /** An object of all fields of a table. */
+    void record(const RecordTable &table, const void *record);
+
+    QByteArray &target() { return m_target; }
+
+private:
+    void separate();
+
+    QByteArray &m_target;
+    bool m_needsComma = false;
+};
+
+#endif

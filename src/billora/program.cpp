@@ -1,0 +1,204 @@
+#include "program.h"
+
+#include "commandtable.h"
+#include "helptext.h"
+#include "language.h"
+#include "terminal.h"
+#include "texts.h"
+#include "valuewriter.h"
+
+#include <QSettings>
+
+#include <unistd.h>
+
+namespace {
+
+bool isGiven(const Arguments &global, const char *flag) { return global.text(flag) == QLatin1String("true"); }
+
+bool writeOutput(const QByteArray &bytes) { return Terminal::write(STDOUT_FILENO, bytes); }
+
+void print(const QString &text) { writeOutput(text.toUtf8()); }
+
+} // namespace
+
+void Program::chooseLanguage(const Arguments &global)
+{
+    const QString option = global.text("lang");
+    const QString environment = qEnvironmentVariable("BILLORA_LANG");
+    QString setting;
+    if (!Language::isKnown(option) && !Language::isKnown(environment))
+        setting = m_session.registry().appSettings()->value(QStringLiteral("billora/language")).toString();
+    Language::use(Language::choose(option, environment, setting));
+}
+
+bool Program::readForm(const Arguments &global)
+{
+    const struct {
+        const char *flag;
+        OutputForm form;
+    } forms[] = {{"json", OutputForm::json}, {"jsonl", OutputForm::jsonl}, {"csv", OutputForm::csv}};
+    const char *chosen = nullptr;
+    for (const auto &form : forms) {
+        if (!isGiven(global, form.flag))
+            continue;
+        if (!chosen) {
+            chosen = form.flag;
+            m_options.form = form.form;
+            continue;
+        }
+        Problem problem;
+        problem.code = Problem::conflict;
+        problem.option = QLatin1String(form.flag);
+        problem.message = text(TEXT("valinnat --%1 ja --%2 sulkevat toisensa pois"))
+                              .arg(QLatin1String(chosen), QLatin1String(form.flag));
+        return m_session.fail(problem);
+    }
+    return true;
+}
+
+bool Program::readGlobals(const CommandLine &line)
+{
+    const Arguments &global = line.global;
+    for (const Option &option : CommandTable::globalOptions()) {
+        const QString name = QLatin1String(option.name);
+        bool isTrue = false;
+        QString word;
+        const ValueReader reader(m_session, QDate::currentDate());
+        if (!global.has(name))
+            continue;
+        if (option.type == ValueType::flag && !reader.flag(name, global.text(name), isTrue))
+            return false;
+        if (option.type == ValueType::word && !reader.word(name, option.choices, global.text(name), word))
+            return false;
+    }
+    m_options.quiet = isGiven(global, "quiet");
+    if (m_options.quiet && m_options.form != OutputForm::text) {
+        Problem problem;
+        problem.code = Problem::conflict;
+        problem.option = QStringLiteral("quiet");
+        problem.message = text(TEXT("valinta --quiet ei sovi yhteen muodon kanssa"));
+        return m_session.fail(problem);
+    }
+    m_options.fields = global.text("fields").split(QLatin1Char(','), Qt::SkipEmptyParts);
+    m_options.isTerminal = Terminal::isOutput();
+    m_options.width = m_options.isTerminal ? Terminal::width() : 0;
+    m_options.isDryRun = isGiven(global, "dryRun");
+    QString color = global.text("color");
+    if (color.isEmpty())
+        color = m_session.registry().appSettings()->value(QStringLiteral("billora/color")).toString();
+    const bool mayColor = m_options.isTerminal && qEnvironmentVariableIsEmpty("NO_COLOR") &&
+                          qgetenv("TERM") != "dumb";
+    m_options.hasColor = color == QLatin1String("always") || (color != QLatin1String("never") && mayColor);
+    m_options.isTerminal = m_options.isTerminal || color == QLatin1String("always");
+    if (m_options.isTerminal && m_options.width == 0)
+        m_options.width = Terminal::width();
+    m_manners.isDryRun = m_options.isDryRun;
+    m_manners.agreesToAll = isGiven(global, "yes");
+    m_manners.isInteractive = Terminal::isInput() && Terminal::isError() && !isGiven(global, "noInput");
+    m_session.setVerbose(isGiven(global, "verbose"));
+    m_session.context().session.setTrial(m_options.isDryRun);
+    return true;
+}
+
+bool Program::paints(const QStringList &words)
+{
+    const CommandLine line = OptionParser::parse(words);
+    return line.command && line.command->is(Command::paints) && !isGiven(line.global, "help");
+}
+
+int Program::run(const QStringList &words)
+{
+    CommandLine line = OptionParser::parse(words);
+    QString settingsFile = line.global.text("config");
+    if (settingsFile.isEmpty())
+        settingsFile = qEnvironmentVariable("BILLORA_CONFIG");
+    const bool hasHelp = words.isEmpty() || isGiven(line.global, "help");
+    QString database = line.global.text("db");
+    if (database.isEmpty())
+        database = qEnvironmentVariable("BILLORA_DB");
+    m_session.choose(settingsFile, database);
+    chooseLanguage(line.global);
+    if (hasHelp) {
+        const QString topic = line.command ? QString::fromLatin1(line.command->name) : line.noun;
+        print(HelpText::of(topic));
+        return 0;
+    }
+    if (isGiven(line.global, "version")) {
+        print(QStringLiteral("billora " BILLORA_VERSION "\n"));
+        return 0;
+    }
+    readForm(line.global);
+    if (line.problem.isSet()) // again: the first time it was told before the language was known
+        line = OptionParser::parse(words);
+    if (!line.problem.isSet() && !m_session.problem().isSet())
+        readGlobals(line);
+    if (line.problem.isSet())
+        return report(line.problem);
+    if (m_session.problem().isSet())
+        return report(m_session.problem());
+    if (!line.command) {
+        if (line.noun.isEmpty()) {
+            print(HelpText::of(QString()));
+            return 0;
+        }
+        Terminal::write(STDERR_FILENO, HelpText::of(line.noun).toUtf8());
+        return 1;
+    }
+    return execute(*line.command, line.arguments);
+}
+
+int Program::execute(const Command &command, const Arguments &arguments)
+{
+    Answer answer(m_options, writeOutput);
+    Task task(m_session, command, arguments, answer, m_manners);
+    const ValueReader reader(m_session, QDate::currentDate());
+    const QVector<const Option *> options = CommandTable::options(command);
+    for (const Option *option : options) {
+        const QString name = QLatin1String(option->name);
+        bool isTrue = false;
+        if (option->type == ValueType::flag && !(command.edits && command.edits->find(name)) && arguments.has(name) &&
+            !reader.flag(name, arguments.text(name), isTrue))
+            return report(m_session.problem());
+    }
+    if (!m_manners.isInteractive || !command.is(Command::asks)) {
+        const Problem missing = OptionParser::missing(command, arguments);
+        if (missing.isSet())
+            return report(missing);
+    }
+    const bool done = (command.is(Command::noCompany) || m_session.open()) && command.run(task);
+    if (!done) {
+        answer.take();
+        m_session.context().session.closeDatabase();
+        return report(m_session.problem());
+    }
+    answer.flush();
+    m_session.context().session.closeDatabase();
+    return task.exitCode;
+}
+
+int Program::report(const Problem &problem) const
+{
+    if (m_options.form == OutputForm::text) {
+        QString lines = QStringLiteral("billora: ") + problem.message;
+        const QString indent = QStringLiteral("\n  ");
+        for (int i = 0; i < problem.suggestions.size(); ++i) {
+            const Problem::Suggestion &suggestion = problem.suggestions.at(i);
+            lines += indent + (i == 0 ? text(TEXT("Tarkoititko: ")) : QString(13, QLatin1Char(' '))) + suggestion.word;
+            if (!suggestion.description.isEmpty())
+                lines += QStringLiteral("  ") + suggestion.description;
+        }
+        if (!problem.see.isEmpty())
+            lines += indent + text(TEXT("Katso: ")) + problem.see;
+        Terminal::writeError(lines);
+        return problem.exitCode();
+    }
+    QByteArray bytes;
+    JsonWriter json(bytes);
+    json.beginObject();
+    json.name("error");
+    problem.write(json);
+    json.endObject();
+    bytes += '\n';
+    Terminal::write(STDERR_FILENO, bytes);
+    return problem.exitCode();
+}

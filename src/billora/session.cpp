@@ -1,0 +1,52 @@
+#include "session.h"
+
+#include "failuresentences.h"
+#include "integer.h"
+#include "terminal.h"
+#include "texts.h"
+
+#include <QSettings>
+
+Session::Session() : m_context(std::make_unique<UseCaseContext>(m_registry, *this)) {}
+
+Session::~Session() = default;
+
+void Session::choose(const QString &settingsFile, const QString &database)
+{
+    m_registry.loadSettings(settingsFile);
+    m_database = database;
+}
+
+QString Session::settingsFile() const { return m_registry.appSettings()->fileName(); }
+
+bool Session::open()
+{
+    if (m_database.isEmpty())
+        return m_context->session.ensureOpen();
+    bool isNumber = false;
+    const int number = Integer::parse(m_database, isNumber);
+    if (isNumber && number < 1)
+        return fail(Failure::noDatabaseListed);
+    // Opened once; from then on a lost connection is the session's own matter.
+    if (m_context->session.database())
+        return m_context->session.ensureOpen();
+    return isNumber ? m_context->session.openDatabase(number, true) : m_context->session.openFile(m_database);
+}
+
+bool Session::fail(const Problem &problem)
+{
+    if (!m_problem.isSet())
+        m_problem = problem;
+    return false;
+}
+
+bool Session::fail(Failure::Code code, const QStringList &arguments)
+{
+    return fail(FailureSentences::problem(code, arguments));
+}
+
+void Session::note(Notice::Code code, const QStringList &arguments)
+{
+    if (m_isVerbose)
+        Terminal::writeError(FailureSentences::text(code, arguments));
+}
