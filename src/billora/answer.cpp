@@ -73,9 +73,9 @@ bool Answer::choose(const RecordTable &table, bool whole, ProblemSink &sink)
             if (isNamed(field, name) && !m_fields.contains(&field))
                 m_fields.append(&field);
         }
-        const bool isKnown = m_fields.size() > before ||
-                             std::any_of(m_fields.begin(), m_fields.end(),
-                                         [&name](const Field *field) { return isNamed(*field, name); });
+        const bool isKnown =
+            m_fields.size() > before || std::any_of(m_fields.begin(), m_fields.end(),
+                                                    [&name](const Field *field) { return isNamed(*field, name); });
         if (isKnown)
             continue;
         Problem problem;

@@ -21,9 +21,9 @@ struct AnswerOptions {
     bool quiet = false;      ///< only the handle of each record
     bool isTerminal = false; ///< people read it: aligned, their numbers and dates
     bool hasColor = false;
-    int width = 80;       ///< of the terminal, columns
-    QStringList fields;   ///< the ones asked for, empty for the usual ones
-    bool full = false;    ///< all fields in a list, too
+    int width = 80;     ///< of the terminal, columns
+    QStringList fields; ///< the ones asked for, empty for the usual ones
+    bool full = false;  ///< all fields in a list, too
     bool isDryRun = false;
 };
 
@@ -42,6 +42,8 @@ public:
     bool isText() const { return m_options.form == OutputForm::text && !m_options.quiet; }
     /** Whether sentences for people are wanted. */
     bool wantsSentences() const { return isText() && m_options.fields.isEmpty(); }
+    /** A list gives all fields, not the usual ones alone. */
+    void setFull(bool isFull) { m_options.full = isFull; }
     /** Marks the answer as given before: the record is told as it is now. */
     void setReplayed() { m_isReplayed = true; }
 

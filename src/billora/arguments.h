@@ -15,7 +15,10 @@ public:
     bool has(const QString &name) const { return m_values.contains(name); }
     bool has(const char *name) const { return has(QLatin1String(name)); }
     /** The value, null when not given; of a repeated option the last. */
-    QString text(const QString &name) const { return m_values.value(name).isEmpty() ? QString() : m_values.value(name).last(); }
+    QString text(const QString &name) const
+    {
+        return m_values.value(name).isEmpty() ? QString() : m_values.value(name).last();
+    }
     QString text(const char *name) const { return text(QString(QLatin1String(name))); }
     QStringList texts(const char *name) const { return m_values.value(QLatin1String(name)); }
     void add(const QString &name, const QString &value)

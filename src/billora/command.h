@@ -13,8 +13,8 @@ struct Option {
     enum Flag : unsigned {
         plainWord = 1, ///< stands as a plain word, in the order of the rows
         required = 2,
-        list = 4,      ///< may be repeated; as a plain word it takes all that are left
-        onlyWord = 8,  ///< has no option form
+        list = 4,     ///< may be repeated; as a plain word it takes all that are left
+        onlyWord = 8, ///< has no option form
     };
 
     const char *name;
@@ -22,7 +22,7 @@ struct Option {
     const char *description; ///< Finnish
     unsigned flags = 0;
     const Choice *choices = nullptr;
-    char letter = 0; ///< of the short form
+    char letter = 0;                   ///< of the short form
     const char *placeholder = nullptr; ///< in usage lines; null: by the type
 
     bool is(Flag flag) const { return (flags & flag) != 0; }
@@ -45,16 +45,16 @@ template <std::size_t n> constexpr OptionGroup group(const Option (&options)[n])
 /** A command: everything that parsing, help, man pages, completion and description need to know of it. */
 struct Command {
     enum Flag : unsigned {
-        writes = 1,       ///< changes the database
-        destructive = 2,  ///< removes records
-        noCompany = 4,    ///< works without a database
-        paints = 8,       ///< draws documents: needs fonts
-        lists = 16,       ///< answers with a list of records
-        single = 32,      ///< not in a batch
-        eachOnly = 64,    ///< in a batch only with --each
-        adds = 128,       ///< required fields must be given
-        keyed = 256,      ///< takes --key
-        asks = 512,       ///< asks a person at a terminal for what is missing
+        writes = 1,      ///< changes the database
+        destructive = 2, ///< removes records
+        noCompany = 4,   ///< works without a database
+        paints = 8,      ///< draws documents: needs fonts
+        lists = 16,      ///< answers with a list of records
+        single = 32,     ///< not in a batch
+        eachOnly = 64,   ///< in a batch only with --each
+        adds = 128,      ///< required fields must be given
+        keyed = 256,     ///< takes --key
+        asks = 512,      ///< asks a person at a terminal for what is missing
     };
 
     const char *name;    ///< "invoice add"

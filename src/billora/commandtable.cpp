@@ -26,7 +26,8 @@ constexpr struct {
     {"settings", TEXT("yrityksen tiedot ja asetukset")},
 };
 
-constexpr Choice colorChoices[] = {{"auto", TEXT("vain päätteellä")}, {"always", TEXT("aina")}, {"never", TEXT("ei koskaan")}, {nullptr, nullptr}};
+constexpr Choice colorChoices[] = {
+    {"auto", TEXT("vain päätteellä")}, {"always", TEXT("aina")}, {"never", TEXT("ei koskaan")}, {nullptr, nullptr}};
 constexpr Choice languageChoices[] = {{"fi", TEXT("suomi")}, {"en", TEXT("englanti")}, {nullptr, nullptr}};
 
 constexpr Option globalRows[] = {

@@ -38,9 +38,9 @@ struct Field {
     Value (*get)(const void *record) = nullptr;
     /** Reads a value into the record being edited; null for a field that is not editable or is set in another way. */
     bool (*set)(void *record, const ValueReader &, const Field &, const QString &value) = nullptr;
-    const Choice *choices = nullptr;      ///< of a word
-    const RecordTable *nested = nullptr;  ///< of records
-    const char *protocolName = nullptr;   ///< in billora-cli, null where it has none
+    const Choice *choices = nullptr;     ///< of a word
+    const RecordTable *nested = nullptr; ///< of records
+    const char *protocolName = nullptr;  ///< in billora-cli, null where it has none
 
     bool is(Flag flag) const { return (flags & flag) != 0; }
 };
@@ -57,6 +57,5 @@ struct RecordTable {
     /** @return null when there is none of the name */
     const Field *find(const QString &name) const;
 };
-
 
 #endif

@@ -29,10 +29,12 @@ constexpr struct {
           "--date --due-date --delivery-date --since --until --as-of --search. Järjestys ja määrä: --sort --limit.\n"
           "Viittaukset: numero, nimi tai sen osa, id:7, @last.")},
     {"json", TEXT("JSON-muoto"),
-     TEXT("--json on yksi taulukko tai olio, --jsonl yksi olio rivillä, aina UTF-8. Rahat, hinnat, määrät ja prosentit ovat\n"
+     TEXT("--json on yksi taulukko tai olio, --jsonl yksi olio rivillä, aina UTF-8. Rahat, hinnat, määrät ja prosentit "
+          "ovat\n"
           "merkkijonoja (\"2183.70\"), tunnisteet ja numerot kokonaislukuja, päivät \"2026-03-31\", puuttuva on null.\n"
           "Kenttien nimet ja tyypit, virhekoodit ja paluuarvot eivät muutu; uusia voi tulla lisää.\n"
-          "Virhe: {\"error\": {\"code\", \"message\", \"option\", \"value\", \"suggestions\", \"exit\"}} virhetulosteeseen.")},
+          "Virhe: {\"error\": {\"code\", \"message\", \"option\", \"value\", \"suggestions\", \"exit\"}} "
+          "virhetulosteeseen.")},
     {"environment", TEXT("Ympäristömuuttujat"),
      TEXT("BILLORA_CONFIG  asetustiedosto\n"
           "BILLORA_DB      yrityksen numero tai SQLite-tiedosto\n"
@@ -78,8 +80,8 @@ QString definition(const QString &term, const QString &meaning, int column)
 
 QString optionTerm(const Option &option)
 {
-    QString term = option.letter ? QLatin1Char('-') + QString(QLatin1Char(option.letter)) + QLatin1String(", ")
-                                 : QString();
+    QString term =
+        option.letter ? QLatin1Char('-') + QString(QLatin1Char(option.letter)) + QLatin1String(", ") : QString();
     term += QLatin1String("--") + CommandTable::hyphenated(QLatin1String(option.name));
     if (option.type != ValueType::flag)
         term += QLatin1Char(' ') + HelpText::placeholder(option);
@@ -126,8 +128,9 @@ QString programHelp()
     help += heading(TEXT("Komennot"));
     const QStringList nouns = CommandTable::nouns();
     for (const QString &noun : nouns)
-        help += definition(noun, text(CommandTable::nounSummary(noun)) + QStringLiteral(": ") +
-                                     CommandTable::verbs(noun).join(QLatin1Char(' ')),
+        help += definition(noun,
+                           text(CommandTable::nounSummary(noun)) + QStringLiteral(": ") +
+                               CommandTable::verbs(noun).join(QLatin1Char(' ')),
                            column);
     for (const CommandGroup &group : CommandTable::groups()) {
         for (const Command &command : group) {
@@ -138,8 +141,8 @@ QString programHelp()
     }
     help += heading(TEXT("Valinnat joka komennossa"));
     help += optionList(CommandTable::globalOptions());
-    help += QLatin1Char('\n') + text(TEXT("Lisää: billora help KOMENTO tai aihe: %1"))
-                                    .arg(HelpText::topics().join(QLatin1Char(' '))) +
+    help += QLatin1Char('\n') +
+            text(TEXT("Lisää: billora help KOMENTO tai aihe: %1")).arg(HelpText::topics().join(QLatin1Char(' '))) +
             QLatin1Char('\n');
     return help;
 }
@@ -165,7 +168,8 @@ QString commandHelp(const Command &command)
     if (command.examples)
         help += examples(command.examples);
     QVector<const Option *> all = CommandTable::options(command);
-    all.erase(std::remove_if(all.begin(), all.end(), [](const Option *o) { return o->is(Option::onlyWord); }), all.end());
+    all.erase(std::remove_if(all.begin(), all.end(), [](const Option *o) { return o->is(Option::onlyWord); }),
+              all.end());
     QVector<Option> shown;
     for (const Option *option : qAsConst(all))
         shown.append(*option);
@@ -189,10 +193,11 @@ QString exitCodeHelp()
             if (problemCodes[j].exitCode == exitMeanings[i].code)
                 codes.append(QLatin1String(problemCodes[j].name));
         }
-        help += definition(QString::number(exitMeanings[i].code),
-                           text(exitMeanings[i].text) +
-                               (codes.isEmpty() ? QString() : QStringLiteral(" (") + codes.join(QLatin1Char(' ')) + QLatin1Char(')')),
-                           8);
+        help += definition(
+            QString::number(exitMeanings[i].code),
+            text(exitMeanings[i].text) +
+                (codes.isEmpty() ? QString() : QStringLiteral(" (") + codes.join(QLatin1Char(' ')) + QLatin1Char(')')),
+            8);
     }
     return help;
 }
@@ -229,11 +234,12 @@ QString HelpText::usage(const Command &command)
                                            : CommandTable::hyphenated(QLatin1String(option->name)).toUpper();
         if (option->is(Option::list))
             word += QStringLiteral("…");
-        usage += option->is(Option::required) ? QLatin1Char(' ') + word
-                                              : QStringLiteral(" [") + word + QLatin1Char(']');
+        usage +=
+            option->is(Option::required) ? QLatin1Char(' ') + word : QStringLiteral(" [") + word + QLatin1Char(']');
     }
     const QVector<const Option *> all = CommandTable::options(command);
-    const bool hasOptions = std::any_of(all.begin(), all.end(), [&words](const Option *o) { return !words.contains(o); });
+    const bool hasOptions =
+        std::any_of(all.begin(), all.end(), [&words](const Option *o) { return !words.contains(o); });
     return hasOptions ? usage + QStringLiteral(" [OPTIONS]") : usage;
 }
 

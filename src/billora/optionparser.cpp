@@ -12,16 +12,16 @@ namespace {
 constexpr struct {
     const char *word, *ours;
 } guesses[] = {
-    {"create", "add"},     {"new", "add"},          {"lis\u00e4\u00e4", "add"},   {"uusi", "add"},
-    {"delete", "remove"},  {"rm", "remove"},        {"del", "remove"},            {"poista", "remove"},
-    {"view", "show"},      {"get", "show"},         {"info", "show"},             {"n\u00e4yt\u00e4", "show"},
-    {"ls", "list"},        {"find", "list"},        {"search", "list"},           {"listaa", "list"},
-    {"update", "edit"},    {"set", "edit"},         {"change", "edit"},           {"muuta", "edit"},
-    {"print", "export"},   {"pdf", "export"},       {"send", "export"},           {"tulosta", "export"},
-    {"lasku", "invoice"},  {"laskut", "invoice"},   {"invoices", "invoice"},      {"asiakas", "customer"},
-    {"tuote", "product"},  {"tili", "account"},     {"suoritus", "payment"},      {"maksu", "payment"},
-    {"raportti", "report"},{"pohja", "layout"},     {"yritys", "company"},        {"asetukset", "settings"},
-    {"rivi", "row"},       {"ohje", "help"},        {"tila", "status"},           {"database", "company"},
+    {"create", "add"},      {"new", "add"},        {"lis\u00e4\u00e4", "add"}, {"uusi", "add"},
+    {"delete", "remove"},   {"rm", "remove"},      {"del", "remove"},          {"poista", "remove"},
+    {"view", "show"},       {"get", "show"},       {"info", "show"},           {"n\u00e4yt\u00e4", "show"},
+    {"ls", "list"},         {"find", "list"},      {"search", "list"},         {"listaa", "list"},
+    {"update", "edit"},     {"set", "edit"},       {"change", "edit"},         {"muuta", "edit"},
+    {"print", "export"},    {"pdf", "export"},     {"send", "export"},         {"tulosta", "export"},
+    {"lasku", "invoice"},   {"laskut", "invoice"}, {"invoices", "invoice"},    {"asiakas", "customer"},
+    {"tuote", "product"},   {"tili", "account"},   {"suoritus", "payment"},    {"maksu", "payment"},
+    {"raportti", "report"}, {"pohja", "layout"},   {"yritys", "company"},      {"asetukset", "settings"},
+    {"rivi", "row"},        {"ohje", "help"},      {"tila", "status"},         {"database", "company"},
 };
 
 Problem unknownCommand(const QString &typed, const QString &behind, const QStringList &known)
@@ -39,7 +39,8 @@ Problem unknownCommand(const QString &typed, const QString &behind, const QStrin
         for (const QString &word : near)
             problem.suggestions.append({QStringLiteral("billora ") + behind + word, QString()});
     }
-    problem.see = behind.isEmpty() ? QStringLiteral("billora help") : QStringLiteral("billora help ") + behind.trimmed();
+    problem.see =
+        behind.isEmpty() ? QStringLiteral("billora help") : QStringLiteral("billora help ") + behind.trimmed();
     return problem;
 }
 
@@ -162,8 +163,8 @@ private:
     {
         const int equals = word.indexOf(QLatin1Char('='));
         QString name = optionName(word);
-        const Option *option = name.isEmpty() ? shortOption(m_line.command, word)
-                                              : CommandTable::findOption(m_line.command, name);
+        const Option *option =
+            name.isEmpty() ? shortOption(m_line.command, word) : CommandTable::findOption(m_line.command, name);
         if (!option) {
             m_line.problem = unknownOption(word.section(QLatin1Char('='), 0, 0));
             return;
@@ -174,7 +175,8 @@ private:
             value = word.mid(equals + 1);
         } else if (option->type != ValueType::flag) {
             if (m_at + 1 >= m_words.size()) {
-                m_line.problem = problemOf(Problem::missingValue, name, text(TEXT("valinnalta %1 puuttuu arvo")).arg(word));
+                m_line.problem =
+                    problemOf(Problem::missingValue, name, text(TEXT("valinnalta %1 puuttuu arvo")).arg(word));
                 return;
             }
             value = m_words.at(++m_at);
@@ -201,8 +203,10 @@ private:
 
     Problem unknownOption(const QString &word) const
     {
-        Problem problem = problemOf(Problem::unknownOption, CommandTable::camelCase(QString(word).remove(0, word.startsWith(QLatin1String("--")) ? 2 : 1)),
-                                    text(TEXT("tuntematon valinta: %1")).arg(word));
+        Problem problem =
+            problemOf(Problem::unknownOption,
+                      CommandTable::camelCase(QString(word).remove(0, word.startsWith(QLatin1String("--")) ? 2 : 1)),
+                      text(TEXT("tuntematon valinta: %1")).arg(word));
         problem.value = word;
         QStringList known;
         if (m_line.command) {
@@ -230,7 +234,8 @@ private:
                    m_line.arguments.has(QLatin1String(words.at(next)->name)))
                 ++next;
             if (next >= words.size()) {
-                m_line.problem = problemOf(Problem::unknownOption, QString(), text(TEXT("ylimääräinen sana: %1")).arg(word));
+                m_line.problem =
+                    problemOf(Problem::unknownOption, QString(), text(TEXT("ylimääräinen sana: %1")).arg(word));
                 m_line.problem.value = word;
                 m_line.problem.see = QStringLiteral("billora help ") + QLatin1String(m_line.command->name);
                 return;
@@ -255,8 +260,8 @@ Problem OptionParser::missing(const Command &command, const Arguments &arguments
     Problem problem;
     const QVector<const Option *> all = CommandTable::options(command);
     for (const Option *option : all) {
-        const bool isNeeded = option->is(Option::required) && (command.is(Command::adds) || !command.edits ||
-                                                               option->is(Option::plainWord));
+        const bool isNeeded = option->is(Option::required) &&
+                              (command.is(Command::adds) || !command.edits || option->is(Option::plainWord));
         const QString name = QLatin1String(option->name);
         if (!isNeeded || arguments.has(name))
             continue;

@@ -86,8 +86,7 @@ bool Program::readGlobals(const CommandLine &line)
     QString color = global.text("color");
     if (color.isEmpty())
         color = m_session.registry().appSettings()->value(QStringLiteral("billora/color")).toString();
-    const bool mayColor = m_options.isTerminal && qEnvironmentVariableIsEmpty("NO_COLOR") &&
-                          qgetenv("TERM") != "dumb";
+    const bool mayColor = m_options.isTerminal && qEnvironmentVariableIsEmpty("NO_COLOR") && qgetenv("TERM") != "dumb";
     m_options.hasColor = color == QLatin1String("always") || (color != QLatin1String("never") && mayColor);
     m_options.isTerminal = m_options.isTerminal || color == QLatin1String("always");
     if (m_options.isTerminal && m_options.width == 0)

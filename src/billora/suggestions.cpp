@@ -17,8 +17,7 @@ int Suggestions::distance(const QString &first, const QString &second)
         for (int j = 1; j <= b.size(); ++j) {
             const bool same = a.at(i - 1) == b.at(j - 1);
             current[j] = std::min({above[j] + 1, current[j - 1] + 1, above[j - 1] + (same ? 0 : 1)});
-            const bool swapped =
-                i > 1 && j > 1 && a.at(i - 1) == b.at(j - 2) && a.at(i - 2) == b.at(j - 1);
+            const bool swapped = i > 1 && j > 1 && a.at(i - 1) == b.at(j - 2) && a.at(i - 2) == b.at(j - 1);
             if (swapped)
                 current[j] = std::min(current[j], before[j - 2] + 1);
         }
@@ -28,23 +27,56 @@ int Suggestions::distance(const QString &first, const QString &second)
     return above[b.size()];
 }
 
-QStringList Suggestions::nearest(const QString &word, const QStringList &candidates)
+namespace {
+
+/** @return the steps from the word to the candidate, -1 when there are too many to have been meant */
+int closeness(const QString &word, const QString &candidate)
 {
     const int limit = std::max(1, word.size() / 3);
-    QVector<QPair<int, QString>> near;
-    for (const QString &candidate : candidates) {
-        // Lengths differ by a lower bound of the distance.
-        if (std::abs(candidate.size() - word.size()) > limit)
-            continue;
-        const int steps = distance(word, candidate);
-        if (steps <= limit && steps < word.size())
-            near.append({steps, candidate});
-    }
+    // Lengths differ by a lower bound of the distance.
+    if (std::abs(candidate.size() - word.size()) > limit)
+        return -1;
+    const int steps = Suggestions::distance(word, candidate);
+    return steps <= limit && steps < word.size() ? steps : -1;
+}
+
+QStringList best(QVector<QPair<int, QString>> &near)
+{
     std::stable_sort(near.begin(), near.end(), [](const auto &a, const auto &b) { return a.first < b.first; });
     QStringList words;
-    for (const auto &candidate : near) {
-        if (!words.contains(candidate.second) && words.size() < most)
+    for (const auto &candidate : qAsConst(near)) {
+        if (!words.contains(candidate.second) && words.size() < Suggestions::most)
             words.append(candidate.second);
     }
     return words;
+}
+
+} // namespace
+
+QStringList Suggestions::nearest(const QString &word, const QStringList &candidates)
+{
+    QVector<QPair<int, QString>> near;
+    for (const QString &candidate : candidates) {
+        const int steps = closeness(word, candidate);
+        if (steps >= 0)
+            near.append({steps, candidate});
+    }
+    return best(near);
+}
+
+QStringList Suggestions::nearestPart(const QString &word, const QStringList &candidates)
+{
+    QVector<QPair<int, QString>> near;
+    for (const QString &candidate : candidates) {
+        int least = closeness(word, candidate);
+        const QStringList parts = candidate.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+        for (const QString &part : parts) {
+            const int steps = closeness(word, part);
+            if (steps >= 0 && (least < 0 || steps < least))
+                least = steps;
+        }
+        if (least >= 0)
+            near.append({least, candidate});
+    }
+    return best(near);
 }

@@ -62,7 +62,7 @@ QVector<int> TableWriter::fittedWidths() const
     while (total > m_width) { // the widest column of text gives way
         int widest = -1;
         for (int i = 0; i < widths.size(); ++i) {
-            const bool isText = !ValueWriter::isRightAligned(m_columns.at(i)->type);
+            const bool isText = m_columns.at(i)->type == ValueType::text; // a cut number or date is none
             if (isText && widths[i] > leastColumn && (widest < 0 || widths[i] > widths[widest]))
                 widest = i;
         }

@@ -177,12 +177,12 @@ bool ValueReader::number(const QString &name, ValueType type, const QString &val
     long long parsed = 0;
     const NumberError error = parseNumber(plain, digits, parsed);
     if (error != NumberError::none)
-        return failValue(name, value, digits == 0 && error == NumberError::malformed
-                                          ? ::text(TEXT("arvon on oltava kokonaisluku"))
-                                          : numberReason(error, digits));
+        return failValue(name, value,
+                         digits == 0 && error == NumberError::malformed ? ::text(TEXT("arvon on oltava kokonaisluku"))
+                                                                        : numberReason(error, digits));
     // The database holds quantities and prices in 64 bits, all else in 32; prices are read back through 32.
-    const bool fits = type == ValueType::quantity || (parsed <= std::numeric_limits<int>::max() &&
-                                                      parsed >= std::numeric_limits<int>::min());
+    const bool fits = type == ValueType::quantity ||
+                      (parsed <= std::numeric_limits<int>::max() && parsed >= std::numeric_limits<int>::min());
     if (!fits)
         return failValue(name, value, numberReason(NumberError::tooLarge, digits));
     result = parsed;
@@ -307,8 +307,9 @@ bool ValueReader::period(const QString &name, const QString &value, Period &resu
 {
     Period parsed;
     if (!parsePeriod(value.trimmed(), parsed))
-        return failValue(name, value,
-                         ::text(TEXT("ajanjakso on kirjoitettava kuten 2026-03, 3/2026, 2026q1 tai 1.3.2026..31.3.2026")));
+        return failValue(
+            name, value,
+            ::text(TEXT("ajanjakso on kirjoitettava kuten 2026-03, 3/2026, 2026q1 tai 1.3.2026..31.3.2026")));
     if (parsed.from.isValid() && parsed.to.isValid() && parsed.to < parsed.from)
         return failValue(name, value, ::text(TEXT("jakso päättyy ennen kuin alkaa")));
     result = parsed;
@@ -330,8 +331,8 @@ bool ValueReader::reference(const QString &name, const QString &value, QString &
         if (!Integer::isDigits(digits) || (isRf && completes) || !Invoice::isValidReferenceNumber(base))
             return failValue(name, value, ::text(TEXT("viitenumerossa on 3-19 numeroa ja tarkiste")));
         const QString full = base + QString::number(Invoice::calculateReferenceNumberCheckDigit(base));
-        const bool isRight = isRf ? digits == full && Invoice::referenceNumberToRf(full) == compact
-                                  : completes || digits == full;
+        const bool isRight =
+            isRf ? digits == full && Invoice::referenceNumberToRf(full) == compact : completes || digits == full;
         if (!isRight)
             return failValue(name, value, ::text(TEXT("viitenumeron tarkiste on väärä; oikea olisi %1")).arg(full));
         if (completes)

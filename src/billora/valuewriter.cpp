@@ -71,9 +71,9 @@ void appendEscape(QByteArray &target, ushort unit)
 QString ValueWriter::plainDecimal(long long number, int digits, int minDigits)
 {
     const bool negative = number < 0;
-    QString text = QString::number(negative ? -static_cast<unsigned long long>(number)
-                                            : static_cast<unsigned long long>(number))
-                       .rightJustified(digits + 1, QLatin1Char('0'));
+    QString text =
+        QString::number(negative ? -static_cast<unsigned long long>(number) : static_cast<unsigned long long>(number))
+            .rightJustified(digits + 1, QLatin1Char('0'));
     if (digits > 0) {
         text.insert(text.size() - digits, QLatin1Char('.'));
         int surplus = digits - minDigits;

@@ -27,3 +27,17 @@ QString PostgreSQLQuery::refusal(const QVariant &value) const
     const bool hasNul = value.type() == QVariant::String && value.toString().contains(QChar(QChar::Null));
     return hasNul ? tr("PostgreSQL ei tallenna tekstiä, jossa on NUL-merkki") : QString();
 }
+
+QString PostgreSQLQuery::containsPattern(const QString &text) const
+{
+    QString pattern;
+    for (const QChar c : text) {
+        if (c.toLower() != c.toUpper())
+            pattern += QLatin1Char('[') + QString(c.toLower()) + c.toUpper() + QLatin1Char(']');
+        else if (c.isLetterOrNumber() || c.isSpace() || c.unicode() > 127)
+            pattern += c;
+        else
+            pattern += QLatin1Char('\\') + QString(c);
+    }
+    return pattern;
+}

@@ -15,6 +15,8 @@ protected:
     QString refusal(const QVariant &value) const override;
     QString likeOperator() const override { return QStringLiteral("ILIKE"); }
     QString escapeClause() const override { return QStringLiteral(" ESCAPE E'\\\\'"); }
+    QString containsPattern(const QString &text) const override;
+    QString containsOperator() const override { return QStringLiteral("~"); }
     /** A prepared statement lives on the server, and is lost with the connection. */
     bool keepsStatements() const override { return false; }
 

@@ -1,6 +1,7 @@
 #ifndef QUERY_H
 #define QUERY_H
 
+#include <QDate>
 #include <QHash>
 #include <QObject>
 #include <QSqlQuery>
@@ -11,6 +12,7 @@ class Customer;
 class Invoice;
 class InvoiceCriteria;
 class InvoiceItem;
+class InvoiceSelection;
 class Payment;
 class PaymentCriteria;
 class PrintScript;
@@ -44,6 +46,7 @@ public:
     [[nodiscard]] bool fetchCustomer(int id);
     [[nodiscard]] bool fetchCustomersByNumber(int number); ///< removed ones too, in the order of the list
     [[nodiscard]] bool fetchProducts();
+    [[nodiscard]] bool fetchProductsByNumber(const QString &number); ///< equal ones, in the order of their making
     [[nodiscard]] bool fetchInvoiceDetails(int id);
     [[nodiscard]] bool fetchInvoiceItems(int invoiceId);
     [[nodiscard]] bool fetchInvoiceItem(int id);
@@ -111,6 +114,35 @@ public:
     [[nodiscard]] bool fetchInvoiceReferences();
     void invoiceReference(Invoice *record) const;
 
+    // Lists with what people see of the neighbouring tables; what is computed is computed by the database.
+    static QStringList invoiceSortKeys(); ///< for InvoiceSelection::sort
+    static QStringList paymentSortKeys();
+    /** @param withDetails  what invoiceListRow() is to read besides the summary */
+    [[nodiscard]] bool fetchInvoiceList(const InvoiceSelection &selection, bool withDetails);
+    /** @param customerNumber  set to -1, and the name to a null text, for an invoice whose customer is gone */
+    void invoiceListRow(Invoice *record, int *customerNumber, QString *customerName, bool withDetails) const;
+    /** The rows of some invoices, an invoice's together, in their order; read with invoiceItem(). */
+    [[nodiscard]] bool fetchItemsOf(const QVector<int> &invoiceIds);
+    /** The payments of some invoices, read with paymentListRow(). */
+    [[nodiscard]] bool fetchPaymentsOf(const QVector<int> &invoiceIds);
+    /** @param sort  a key of paymentSortKeys(), or empty. @param limit  negative for none */
+    [[nodiscard]] bool fetchPaymentList(const PaymentCriteria &payments, const InvoiceSelection &invoices,
+                                        const QString &sort, bool descending, int limit);
+    /** @param accountName  a null text for a payment without an account */
+    void paymentListRow(Payment *record, int *invoiceNumber, QString *accountName) const;
+    /** Count and sum of the invoices with a balance, a row for each customer that has some. */
+    [[nodiscard]] bool fetchOpenBalances();
+    void openBalance(int *customerId, int *count, long long *balance) const; ///< cents
+    /** One row: what is open, and what of it was due before the day. */
+    [[nodiscard]] bool fetchCompanyBalances(const QDate &today);
+    void companyBalances(int *openCount, long long *open, int *overdueCount, long long *overdue) const; ///< cents
+
+    // The highest id of those that are not removed: 0 for none, -1 on failure.
+    int newestInvoiceId();
+    int newestCustomerId();
+    int newestProductId();
+    int newestBankAccountId();
+    int newestPaymentId();
     int maxInvoiceNumber();           ///< 0 without invoices, -1 on failure
     int maxCustomerNumber();          ///< of all customers, removed ones too; 0 without customers, -1 on failure
     int nextRowNumber(int invoiceId); ///< one past the invoice's last row, 0 without rows, -1 on failure
@@ -136,6 +168,9 @@ protected:
     /** @return why the backend cannot store the value; empty when it can */
     virtual QString refusal(const QVariant &) const { return QString(); }
     virtual QString likeOperator() const { return QStringLiteral("LIKE"); }
+    /** A pattern that finds the text anywhere, letter case aside also outside ASCII, for containsOperator(). */
+    virtual QString containsPattern(const QString &text) const;
+    virtual QString containsOperator() const { return QStringLiteral("GLOB"); }
     virtual QString escapeClause() const { return QStringLiteral(" ESCAPE '\\'"); }
     /** Whether prepared statements are kept for the next time: most of a small statement's time is its preparation. */
     virtual bool keepsStatements() const { return true; }
@@ -151,6 +186,10 @@ private:
     template <class Record> bool insert(Record *record);
     template <class Record> bool update(Record *record);
     template <class Record> bool save(Record *record);
+
+    template <class Record> int newestId(const char *condition = "");
+    static QString invoiceListBalance(const InvoiceSelection &selection);
+    QString invoiceListSource(const InvoiceSelection &selection, QVariantList &params) const;
 
     bool fetchPaymentAmounts(const InvoiceCriteria *c);
     bool fetchInvoices(const QString &select, int totalColumn, const InvoiceCriteria *c);

@@ -1,9 +1,13 @@
 // The lists of invoices and payments with what belongs to them; the rest of Query is in query.cpp and querysearch.cpp.
 
+#include "bankaccount.h"
+#include "customer.h"
 #include "invoice.h"
+#include "invoiceitem.h"
 #include "invoiceselection.h"
 #include "payment.h"
 #include "paymentcriteria.h"
+#include "product.h"
 #include "query.h"
 #include "tablecolumns.h"
 
@@ -36,6 +40,10 @@ constexpr char listColumns[] = "i.id, i.number, i.type, i.date, i.due_date, i.cu
 constexpr char detailColumns[] = ", i.payment_terms, i.interest_on_arrears, i.delivery, i.delivery_date, i.buyer_ref, "
                                  "i.seller_ref, i.properties";
 constexpr char invoiceTables[] = " FROM invoice i LEFT JOIN customer c ON c.id = i.customer_id";
+
+constexpr char paymentSelect[] =
+    "SELECT p.id, p.invoice_id, p.date, p.amount, p.bank_account_id, i.number, b.name FROM payment p LEFT JOIN "
+    "invoice i ON i.id = p.invoice_id LEFT JOIN bank_account b ON b.id = p.bank_account_id";
 
 template <std::size_t n> const SortColumn *findColumn(const SortColumn (&columns)[n], const QString &key)
 {
@@ -98,14 +106,35 @@ QString stateCondition(int state, const QString &balance)
     }
 }
 
+/** `?, ?, ?`: a power of two of them, so that few different statements are kept; the last value fills up. */
+QString marks(QVariantList &values)
+{
+    int count = 1;
+    while (count < values.size())
+        count *= 2;
+    while (values.size() < count)
+        values.append(values.last());
+    QString list = QStringLiteral("?, ").repeated(count);
+    list.chop(2);
+    return list;
+}
+
+QVariantList variants(const QVector<int> &numbers)
+{
+    QVariantList list;
+    list.reserve(numbers.size());
+    for (const int number : numbers)
+        list.append(number);
+    return list;
+}
+
 void addNumbers(Conditions &conditions, const InvoiceSelection &selection)
 {
     QStringList any;
-    QVariantList values;
+    QVariantList values, singles;
     for (const InvoiceSelection::NumberRange &range : selection.numbers) {
         if (range.from >= 0 && range.from == range.to) {
-            any.append(QStringLiteral("i.number = ?"));
-            values.append(range.from);
+            singles.append(range.from);
             continue;
         }
         QStringList both;
@@ -119,9 +148,14 @@ void addNumbers(Conditions &conditions, const InvoiceSelection &selection)
         }
         any.append(both.isEmpty() ? QStringLiteral("1 = 1") : both.join(QLatin1String(" AND ")));
     }
-    for (const int id : selection.ids) {
-        any.append(QStringLiteral("i.id = ?"));
-        values.append(id);
+    if (!singles.isEmpty()) {
+        any.append(QLatin1String("i.number IN (") + marks(singles) + QLatin1Char(')'));
+        values.append(singles);
+    }
+    if (!selection.ids.isEmpty()) {
+        QVariantList ids = variants(selection.ids);
+        any.append(QLatin1String("i.id IN (") + marks(ids) + QLatin1Char(')'));
+        values.append(ids);
     }
     if (!any.isEmpty())
         conditions.add(QLatin1Char('(') + any.join(QLatin1String(" OR ")) + QLatin1Char(')'), values);
@@ -232,23 +266,30 @@ void Query::invoiceListRow(Invoice *record, int *customerNumber, QString *custom
     record->propertiesFromString(m_query.value(17).toString());
 }
 
-bool Query::fetchInvoiceListItems(const InvoiceSelection &selection)
+bool Query::fetchItemsOf(const QVector<int> &invoiceIds)
 {
-    QVariantList params;
-    const QString source = invoiceListSource(selection, params);
-    return execute(QStringLiteral("SELECT %1 FROM invoice_item WHERE invoice_id IN (SELECT i.id%2) ORDER BY invoice_id, "
+    QVariantList ids = variants(invoiceIds);
+    const QString list = marks(ids);
+    return execute(QStringLiteral("SELECT %1 FROM invoice_item WHERE invoice_id IN (%2) ORDER BY invoice_id, "
                                   "row_number, id")
-                       .arg(selectedColumns<InvoiceItem>(), source),
-                   params);
+                       .arg(selectedColumns<InvoiceItem>(), list),
+                   ids);
+}
+
+bool Query::fetchPaymentsOf(const QVector<int> &invoiceIds)
+{
+    QVariantList ids = variants(invoiceIds);
+    const QString list = marks(ids);
+    return execute(QLatin1String(paymentSelect) + QLatin1String(" WHERE p.invoice_id IN (") + list +
+                       QLatin1String(") ORDER BY p.invoice_id, p.date, p.id"),
+                   ids);
 }
 
 bool Query::fetchPaymentList(const PaymentCriteria &payments, const InvoiceSelection &invoices, const QString &sort,
                              bool descending, int limit)
 {
     QVariantList params;
-    QString sql = QStringLiteral("SELECT p.id, p.invoice_id, p.date, p.amount, p.bank_account_id, i.number, b.name FROM "
-                                 "payment p LEFT JOIN invoice i ON i.id = p.invoice_id LEFT JOIN bank_account b ON "
-                                 "b.id = p.bank_account_id");
+    QString sql = QLatin1String(paymentSelect);
     const bool hasConditions =
         buildPaymentWhereClause(&payments, nullptr, sql, params, QStringLiteral("p."), QStringLiteral(" WHERE "));
     if (invoices.restricts()) {
@@ -318,4 +359,27 @@ QString Query::containsPattern(const QString &text) const
             pattern += isSpecial ? QLatin1Char('[') + QString(c) + QLatin1Char(']') : QString(c);
     }
     return pattern + QLatin1Char('*');
+}
+
+template <class Record> int Query::newestId(const char *condition)
+{
+    return firstInteger(QStringLiteral("SELECT coalesce(max(id), 0) FROM %1%2")
+                            .arg(QLatin1String(TableColumns<Record>::table), QLatin1String(condition)));
+}
+
+int Query::newestInvoiceId() { return newestId<Invoice>(); }
+
+int Query::newestCustomerId() { return newestId<Customer>(" WHERE NOT deleted"); }
+
+int Query::newestProductId() { return newestId<Product>(); }
+
+int Query::newestBankAccountId() { return newestId<BankAccount>(" WHERE NOT deleted"); }
+
+int Query::newestPaymentId() { return newestId<Payment>(); }
+
+bool Query::fetchProductsByNumber(const QString &number)
+{
+    return execute(
+        QStringLiteral("SELECT %1 FROM product WHERE number = ? ORDER BY id").arg(selectedColumns<Product>()),
+        {number});
 }

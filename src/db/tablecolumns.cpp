@@ -31,11 +31,7 @@ public:
     RowReader &operator>>(QString &value) { return set(value, next().toString()); }
     RowReader &operator>>(QDate &value)
     {
-        const QVariant column = next();
-        value = column.type() == QVariant::String ? IsoDate::parse(column.toString()) : QDate();
-        if (!value.isValid()) // a date already, as some backends give it, or text of another form
-            value = column.toDate();
-        return *this;
+        return set(value, dateValue(m_row, m_column++));
     }
     RowReader &operator>>(QByteArray &value) { return set(value, next().toByteArray()); }
     RowReader &operator>>(PropertyMap &value)
@@ -58,6 +54,13 @@ private:
 };
 
 } // namespace
+
+QDate dateValue(const QSqlQuery &row, int column)
+{
+    const QVariant value = row.value(column);
+    const QDate date = value.type() == QVariant::String ? IsoDate::parse(value.toString()) : QDate();
+    return date.isValid() ? date : value.toDate(); // a date already, as some backends give it, or another form
+}
 
 template <> const char *const TableColumns<BankAccount>::table = "bank_account";
 template <>

@@ -1,6 +1,7 @@
 #ifndef TABLECOLUMNS_H
 #define TABLECOLUMNS_H
 
+#include <QDate>
 #include <QString>
 #include <QVariantList>
 
@@ -27,6 +28,9 @@ template <class Record> struct TableColumns {
     /** Reads the id and then `columns` (settings: `columns` only), from the given column of the current row on. */
     static void read(const QSqlQuery &row, int first, Record &record);
 };
+
+/** A date column as either backend gives it; invalid for none. */
+QDate dateValue(const QSqlQuery &row, int column);
 
 /** @return the column list with the id in front, each column with the prefix ("", "i.") */
 template <class Record> QString selectedColumns(const QString &prefix = QString());

@@ -29,9 +29,9 @@ public:
     QDate deliveryDateFrom, deliveryDateTo; ///< an invoice without a delivery date counts with its own date
     QDate asOf;                             ///< when valid, balances are those of the end of this day
     QDate today;                            ///< what is overdue counts from; must be valid
-    QString text; ///< in rows, the customer's name and both references, letter case aside
+    QString text;                           ///< in rows, the customer's name and both references, letter case aside
 
-    QString sort;            ///< a key of Query::invoiceSortColumns(); empty: by number
+    QString sort; ///< a key of Query::invoiceSortColumns(); empty: by number
     bool descending = false;
     int limit = -1; ///< after sorting
 
@@ -40,8 +40,8 @@ public:
     {
         return !numbers.isEmpty() || !ids.isEmpty() || withBalance || withoutBalance || isOverdue || state >= 0 ||
                customerId >= 0 || type >= 0 || !reference.isEmpty() || dateFrom.isValid() || dateTo.isValid() ||
-               dueDateFrom.isValid() || dueDateTo.isValid() || deliveryDateFrom.isValid() ||
-               deliveryDateTo.isValid() || !text.isEmpty();
+               dueDateFrom.isValid() || dueDateTo.isValid() || deliveryDateFrom.isValid() || deliveryDateTo.isValid() ||
+               !text.isEmpty();
     }
     /** What overdue is judged on. */
     QDate day() const { return asOf.isValid() ? asOf : today; }

@@ -124,6 +124,8 @@ bool DatabaseSession::openAt(QSettings *settings)
     return true;
 }
 
+std::unique_ptr<Query> DatabaseSession::newQuery() const { return std::unique_ptr<Query>(m_database->query()); }
+
 void DatabaseSession::closeDatabase()
 {
     m_query.reset();

@@ -87,8 +87,8 @@ private:
     std::unique_ptr<Database> m_database;
     std::unique_ptr<Query> m_query;
     ListState m_lists[listCount];
-    int m_number = -1;               ///< what the open database was asked for by
-    bool m_isSuspect = false;        ///< a statement failed: the connection may be gone
+    int m_number = -1;        ///< what the open database was asked for by
+    bool m_isSuspect = false; ///< a statement failed: the connection may be gone
     bool m_isTrial = false;
     std::optional<int> m_lostNumber; ///< as m_number, of a database whose connection is gone
 };

@@ -11,7 +11,10 @@
 template <auto part, auto member> struct PartGetter;
 
 template <class Record, class Part, Part Record::*part, auto member> struct PartGetter<part, member> {
-    static Value get(const void *record) { return Value(std::invoke(member, static_cast<const Record *>(record)->*part)); }
+    static Value get(const void *record)
+    {
+        return Value(std::invoke(member, static_cast<const Record *>(record)->*part));
+    }
 };
 
 template <auto part, auto member> constexpr auto partValue = &PartGetter<part, member>::get;

@@ -27,8 +27,8 @@ Value customerName(const void *record)
 Value state(const void *record)
 {
     const Invoice &invoice = of(record).invoice;
-    return Value(QString::fromLatin1(InvoiceState::word(
-        InvoiceState::of(invoice.totalAmount, invoice.balance, invoice.dueDate, of(record).today))));
+    return Value(QString::fromLatin1(
+        InvoiceState::word(InvoiceState::of(invoice.totalAmount, invoice.balance, invoice.dueDate, of(record).today))));
 }
 
 Value paid(const void *record)
@@ -37,38 +37,50 @@ Value paid(const void *record)
     return Value(static_cast<long long>(invoice.totalAmount) - invoice.balance);
 }
 
-constexpr Choice states[] = {{"empty", TEXT("tyhjä")},
-                             {"paid", TEXT("maksettu"), "32"},
-                             {"open", TEXT("avoin")},
-                             {"overdue", TEXT("erääntynyt"), "31"},
-                             {"credit", TEXT("hyvitys")},
-                             {nullptr, nullptr}};
-
 constexpr Field fields[] = {
-    {"id", ValueType::id, TEXT("Tunniste"), nullptr, shown, partValue<part, &Invoice::id>, nullptr, nullptr, nullptr, "id"},
-    {"number", ValueType::integer, TEXT("Numero"), TEXT("laskun numero; seuraava, jos sitä ei anneta"), shown | edited | Field::handle, partValue<part, &Invoice::number>, nullptr, nullptr, nullptr, "number"},
+    {"id", ValueType::id, TEXT("Tunniste"), nullptr, shown, partValue<part, &Invoice::id>, nullptr, nullptr, nullptr,
+     "id"},
+    {"number", ValueType::integer, TEXT("Numero"), TEXT("laskun numero; seuraava, jos sitä ei anneta"),
+     shown | edited | Field::handle, partValue<part, &Invoice::number>, nullptr, nullptr, nullptr, "number"},
     {"type", ValueType::word, TEXT("Laji"), nullptr, shown | edited, type, nullptr, invoiceTypes, nullptr, "type"},
-    {"date", ValueType::date, TEXT("Päivä"), TEXT("laskun päivä; tänään, jos sitä ei anneta"), shown | edited, partValue<part, &Invoice::date>, nullptr, nullptr, nullptr, "date"},
-    {"dueDate", ValueType::date, TEXT("Eräpäivä"), TEXT("eräpäivä; maksuehdon mukaan, jos sitä ei anneta"), shown | edited | Field::clearable, partValue<part, &Invoice::dueDate>, nullptr, nullptr, nullptr, "dueDate"},
-    {"customer.id", ValueType::id, TEXT("Asiakkaan tunniste"), nullptr, shown, partValue<part, &Invoice::customerId>, nullptr, nullptr, nullptr, "customerId"},
-    {"customer.number", ValueType::integer, TEXT("Asiakas"), nullptr, shown, [](const void *r) { return optionalNumber(of(r).customerNumber); }},
+    {"date", ValueType::date, TEXT("Päivä"), TEXT("laskun päivä; tänään, jos sitä ei anneta"), shown | edited,
+     partValue<part, &Invoice::date>, nullptr, nullptr, nullptr, "date"},
+    {"dueDate", ValueType::date, TEXT("Eräpäivä"), TEXT("eräpäivä; maksuehdon mukaan, jos sitä ei anneta"),
+     shown | edited | Field::clearable, partValue<part, &Invoice::dueDate>, nullptr, nullptr, nullptr, "dueDate"},
+    {"customer.id", ValueType::id, TEXT("Asiakkaan tunniste"), nullptr, shown, partValue<part, &Invoice::customerId>,
+     nullptr, nullptr, nullptr, "customerId"},
+    {"customer.number", ValueType::integer, TEXT("Asiakas"), nullptr, shown,
+     [](const void *r) { return optionalNumber(of(r).customerNumber); }},
     {"customer.name", ValueType::text, TEXT("Asiakkaan nimi"), nullptr, shown, customerName},
-    {"reference", ValueType::text, TEXT("Viite"), TEXT("viitenumero; # lopussa on tarkiste"), shown | edited | Field::clearable, partValue<part, &Invoice::referenceNumber>, nullptr, nullptr, nullptr, "referenceNumber"},
-    {"total", ValueType::money, TEXT("Summa"), nullptr, shown | Field::summed, partValue<part, &Invoice::totalAmount>, nullptr, nullptr, nullptr, "amount"},
-    {"balance", ValueType::money, TEXT("Avoinna"), nullptr, shown | Field::summed, partValue<part, &Invoice::balance>, nullptr, nullptr, nullptr, "balance"},
-    {"state", ValueType::word, TEXT("Tila"), nullptr, shown, state, nullptr, states},
+    {"reference", ValueType::text, TEXT("Viite"), TEXT("viitenumero; # lopussa on tarkiste"),
+     shown | edited | Field::clearable, partValue<part, &Invoice::referenceNumber>, nullptr, nullptr, nullptr,
+     "referenceNumber"},
+    {"total", ValueType::money, TEXT("Summa"), nullptr, shown | Field::summed, partValue<part, &Invoice::totalAmount>,
+     nullptr, nullptr, nullptr, "amount"},
+    {"balance", ValueType::money, TEXT("Avoinna"), nullptr, shown | Field::summed, partValue<part, &Invoice::balance>,
+     nullptr, nullptr, nullptr, "balance"},
+    {"state", ValueType::word, TEXT("Tila"), nullptr, shown, state, nullptr, invoiceStates},
     {"net", ValueType::money, TEXT("Veroton"), nullptr, Field::detail | Field::summed, value<&R::net>},
     {"vat", ValueType::money, TEXT("Vero"), nullptr, Field::detail | Field::summed, value<&R::vat>},
     {"paid", ValueType::money, TEXT("Maksettu"), nullptr, Field::summed, paid},
-    {"paymentTerms", ValueType::text, TEXT("Maksuehto"), TEXT("maksuehto; sen ensimmäinen luku on päiviä"), edited | Field::clearable, partValue<part, &Invoice::paymentTerms>, nullptr, nullptr, nullptr, "paymentTerms"},
-    {"interest", ValueType::percent, TEXT("Viivästyskorko-%"), nullptr, edited | Field::clearable, partValue<part, &Invoice::interestOnArrears>, nullptr, nullptr, nullptr, "interestOnArrears"},
-    {"delivery", ValueType::text, TEXT("Toimitustapa"), nullptr, edited | Field::clearable, partValue<part, &Invoice::delivery>, nullptr, nullptr, nullptr, "delivery"},
-    {"deliveryDate", ValueType::date, TEXT("Toimituspäivä"), nullptr, edited | Field::clearable, partValue<part, &Invoice::deliveryDate>, nullptr, nullptr, nullptr, "deliveryDate"},
-    {"buyerRef", ValueType::text, TEXT("Viitteenne"), TEXT("ostajan viite"), edited | Field::clearable, partValue<part, &Invoice::buyerRef>, nullptr, nullptr, nullptr, "buyerRef"},
-    {"sellerRef", ValueType::text, TEXT("Viitteemme"), TEXT("myyjän viite"), edited | Field::clearable, partValue<part, &Invoice::sellerRef>, nullptr, nullptr, nullptr, "sellerRef"},
-    {"vatRates", ValueType::records, TEXT("Verokannat"), nullptr, Field::detail, [](const void *r) { return recordsOf(of(r).vatRates); }, nullptr, nullptr, &vatRateTable},
-    {"rows", ValueType::records, TEXT("Rivit"), nullptr, Field::detail, [](const void *r) { return recordsOf(of(r).rows); }, nullptr, nullptr, &rowTable},
-    {"payments", ValueType::records, TEXT("Suoritukset"), nullptr, Field::detail, [](const void *r) { return recordsOf(of(r).payments); }, nullptr, nullptr, &paymentTable},
+    {"paymentTerms", ValueType::text, TEXT("Maksuehto"), TEXT("maksuehto; sen ensimmäinen luku on päiviä"),
+     edited | Field::clearable, partValue<part, &Invoice::paymentTerms>, nullptr, nullptr, nullptr, "paymentTerms"},
+    {"interest", ValueType::percent, TEXT("Viivästyskorko-%"), nullptr, edited | Field::clearable,
+     partValue<part, &Invoice::interestOnArrears>, nullptr, nullptr, nullptr, "interestOnArrears"},
+    {"delivery", ValueType::text, TEXT("Toimitustapa"), nullptr, edited | Field::clearable,
+     partValue<part, &Invoice::delivery>, nullptr, nullptr, nullptr, "delivery"},
+    {"deliveryDate", ValueType::date, TEXT("Toimituspäivä"), nullptr, edited | Field::clearable,
+     partValue<part, &Invoice::deliveryDate>, nullptr, nullptr, nullptr, "deliveryDate"},
+    {"buyerRef", ValueType::text, TEXT("Viitteenne"), TEXT("ostajan viite"), edited | Field::clearable,
+     partValue<part, &Invoice::buyerRef>, nullptr, nullptr, nullptr, "buyerRef"},
+    {"sellerRef", ValueType::text, TEXT("Viitteemme"), TEXT("myyjän viite"), edited | Field::clearable,
+     partValue<part, &Invoice::sellerRef>, nullptr, nullptr, nullptr, "sellerRef"},
+    {"vatRates", ValueType::records, TEXT("Verokannat"), nullptr, Field::detail,
+     [](const void *r) { return recordsOf(of(r).vatRates); }, nullptr, nullptr, &vatRateTable},
+    {"rows", ValueType::records, TEXT("Rivit"), nullptr, Field::detail,
+     [](const void *r) { return recordsOf(of(r).rows); }, nullptr, nullptr, &rowTable},
+    {"payments", ValueType::records, TEXT("Suoritukset"), nullptr, Field::detail,
+     [](const void *r) { return recordsOf(of(r).payments); }, nullptr, nullptr, &paymentTable},
 };
 
 } // namespace
@@ -78,7 +90,9 @@ const Choice invoiceTypes[] = {{"invoice", TEXT("lasku")},
                                {"credit", TEXT("hyvityslasku")},
                                {"delivery-note", TEXT("lähetyslista")},
                                {nullptr, nullptr}};
-const Choice *const invoiceStates = states;
+const Choice invoiceStates[] = {{"empty", TEXT("tyhjä")},    {"paid", TEXT("maksettu"), "32"},
+                                {"open", TEXT("avoin")},     {"overdue", TEXT("erääntynyt"), "31"},
+                                {"credit", TEXT("hyvitys")}, {nullptr, nullptr}};
 
 const RecordTable invoiceTable = {"invoice", fields, sizeof fields / sizeof fields[0],
                                   "number,date,dueDate,customer.number,customer.name,total,balance,state"};

@@ -18,12 +18,18 @@ Value accountName(const void *record)
 }
 
 constexpr Field fields[] = {
-    {"id", ValueType::id, TEXT("Tunniste"), nullptr, shown | Field::handle, partValue<part, &Payment::id>, nullptr, nullptr, nullptr, "id"},
+    {"id", ValueType::id, TEXT("Tunniste"), nullptr, shown | Field::handle, partValue<part, &Payment::id>, nullptr,
+     nullptr, nullptr, "id"},
     {"invoice", ValueType::integer, TEXT("Lasku"), TEXT("laskun numero"), shown, value<&R::invoiceNumber>},
-    {"invoiceId", ValueType::id, TEXT("Laskun tunniste"), nullptr, shown, partValue<part, &Payment::invoiceId>, nullptr, nullptr, nullptr, "invoiceId"},
-    {"date", ValueType::date, TEXT("Päivä"), TEXT("suorituksen päivä"), shown | Field::editable, partValue<part, &Payment::date>, setMember<Payment, &Payment::date>, nullptr, nullptr, "date"},
-    {"amount", ValueType::money, TEXT("Summa"), TEXT("suorituksen summa; koko avoin summa, jos sitä ei anneta"), shown | Field::editable | Field::summed, partValue<part, &Payment::amount>, setMember<Payment, &Payment::amount>, nullptr, nullptr, "amount"},
-    {"account.id", ValueType::id, TEXT("Tilin tunniste"), nullptr, shown, accountId, nullptr, nullptr, nullptr, "bankAccountId"},
+    {"invoiceId", ValueType::id, TEXT("Laskun tunniste"), nullptr, shown, partValue<part, &Payment::invoiceId>, nullptr,
+     nullptr, nullptr, "invoiceId"},
+    {"date", ValueType::date, TEXT("Päivä"), TEXT("suorituksen päivä"), shown | Field::editable,
+     partValue<part, &Payment::date>, setMember<Payment, &Payment::date>, nullptr, nullptr, "date"},
+    {"amount", ValueType::money, TEXT("Summa"), TEXT("suorituksen summa; koko avoin summa, jos sitä ei anneta"),
+     shown | Field::editable | Field::summed, partValue<part, &Payment::amount>, setMember<Payment, &Payment::amount>,
+     nullptr, nullptr, "amount"},
+    {"account.id", ValueType::id, TEXT("Tilin tunniste"), nullptr, shown, accountId, nullptr, nullptr, nullptr,
+     "bankAccountId"},
     {"account.name", ValueType::text, TEXT("Tili"), nullptr, shown, accountName},
 };
 

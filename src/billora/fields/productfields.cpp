@@ -10,8 +10,7 @@ constexpr auto part = &R::product;
 constexpr unsigned shown = Field::summary;
 constexpr unsigned edited = shown | Field::editable;
 
-template <auto setPrice>
-bool price(void *record, const ValueReader &reader, const Field &field, const QString &value)
+template <auto setPrice> bool price(void *record, const ValueReader &reader, const Field &field, const QString &value)
 {
     long long amount = 0;
     if (!reader.number(field.name, field.type, value, amount))
@@ -21,15 +20,27 @@ bool price(void *record, const ValueReader &reader, const Field &field, const QS
 }
 
 constexpr Field fields[] = {
-    {"id", ValueType::id, TEXT("Tunniste"), nullptr, shown, partValue<part, &Product::id>, nullptr, nullptr, nullptr, "id"},
-    {"number", ValueType::text, TEXT("Numero"), TEXT("tuotenumero, voi olla myös tekstiä"), edited | Field::required | Field::handle, partValue<part, &Product::number>, setMember<Product, &Product::number>, nullptr, nullptr, "number"},
-    {"name", ValueType::text, TEXT("Nimi"), nullptr, edited | Field::required, partValue<part, &Product::name>, setMember<Product, &Product::name>, nullptr, nullptr, "name"},
-    {"unit", ValueType::text, TEXT("Yksikkö"), nullptr, edited | Field::clearable, partValue<part, &Product::unitCode>, setMember<Product, &Product::unitCode>, nullptr, nullptr, "unitCode"},
-    {"price", ValueType::price, TEXT("Hinta"), TEXT("yksikköhinta ilman arvonlisäveroa"), edited, partValue<part, &Product::amountVatExcluded>, price<&Product::setAmountVatExcluded>, nullptr, nullptr, "amountVatExcluded"},
-    {"priceWithVat", ValueType::price, TEXT("Verollinen hinta"), TEXT("yksikköhinta arvonlisäveroineen"), edited, partValue<part, &Product::amountVatIncluded>, price<&Product::setAmountVatIncluded>, nullptr, nullptr, "amountVatIncluded"},
-    {"priceIncludesVat", ValueType::flag, TEXT("Hinta sisältää veron"), nullptr, shown, [](const void *r) { return Value(!static_cast<const R *>(r)->product.vatExcluded); }},
-    {"vatRate", ValueType::percent, TEXT("Vero-%"), TEXT("arvonlisäveroprosentti"), edited, partValue<part, &Product::vatRate>, setMember<Product, &Product::vatRate>, nullptr, nullptr, "vatRate"},
-    {"category", ValueType::text, TEXT("Ryhmä"), nullptr, edited | Field::clearable, partValue<part, &Product::category>, setMember<Product, &Product::category>, nullptr, nullptr, "category"},
+    {"id", ValueType::id, TEXT("Tunniste"), nullptr, shown, partValue<part, &Product::id>, nullptr, nullptr, nullptr,
+     "id"},
+    {"number", ValueType::text, TEXT("Numero"), TEXT("tuotenumero, voi olla myös tekstiä"),
+     edited | Field::required | Field::handle, partValue<part, &Product::number>, setMember<Product, &Product::number>,
+     nullptr, nullptr, "number"},
+    {"name", ValueType::text, TEXT("Nimi"), nullptr, edited | Field::required, partValue<part, &Product::name>,
+     setMember<Product, &Product::name>, nullptr, nullptr, "name"},
+    {"unit", ValueType::text, TEXT("Yksikkö"), nullptr, edited | Field::clearable, partValue<part, &Product::unitCode>,
+     setMember<Product, &Product::unitCode>, nullptr, nullptr, "unitCode"},
+    {"price", ValueType::price, TEXT("Hinta"), TEXT("yksikköhinta ilman arvonlisäveroa"), edited,
+     partValue<part, &Product::amountVatExcluded>, price<&Product::setAmountVatExcluded>, nullptr, nullptr,
+     "amountVatExcluded"},
+    {"priceWithVat", ValueType::price, TEXT("Verollinen hinta"), TEXT("yksikköhinta arvonlisäveroineen"), edited,
+     partValue<part, &Product::amountVatIncluded>, price<&Product::setAmountVatIncluded>, nullptr, nullptr,
+     "amountVatIncluded"},
+    {"priceIncludesVat", ValueType::flag, TEXT("Hinta sisältää veron"), nullptr, shown,
+     [](const void *r) { return Value(!static_cast<const R *>(r)->product.vatExcluded); }},
+    {"vatRate", ValueType::percent, TEXT("Vero-%"), TEXT("arvonlisäveroprosentti"), edited,
+     partValue<part, &Product::vatRate>, setMember<Product, &Product::vatRate>, nullptr, nullptr, "vatRate"},
+    {"category", ValueType::text, TEXT("Ryhmä"), nullptr, edited | Field::clearable,
+     partValue<part, &Product::category>, setMember<Product, &Product::category>, nullptr, nullptr, "category"},
 };
 
 } // namespace

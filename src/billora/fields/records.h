@@ -61,7 +61,7 @@ struct InvoiceRecord {
 
 /** The words of invoice types, in the order of Invoice::Type; null ends them. */
 extern const Choice invoiceTypes[];
-extern const Choice *const invoiceStates;
+extern const Choice invoiceStates[];
 
 extern const RecordTable customerTable;
 extern const RecordTable productTable;

@@ -10,8 +10,7 @@ constexpr auto part = &R::item;
 constexpr unsigned shown = Field::summary;
 constexpr unsigned edited = shown | Field::editable;
 
-template <auto setPrice>
-bool price(void *record, const ValueReader &reader, const Field &field, const QString &value)
+template <auto setPrice> bool price(void *record, const ValueReader &reader, const Field &field, const QString &value)
 {
     long long amount = 0;
     if (!reader.number(field.name, field.type, value, amount))
@@ -28,18 +27,37 @@ Value productNumber(const void *record)
 }
 
 constexpr Field fields[] = {
-    {"row", ValueType::integer, TEXT("Rivi"), TEXT("paikka laskulla, ensimmäinen on 1"), shown | Field::handle, value<&R::position>},
-    {"id", ValueType::id, TEXT("Tunniste"), nullptr, shown, partValue<part, &InvoiceItem::id>, nullptr, nullptr, nullptr, "id"},
-    {"product", ValueType::text, TEXT("Tuote"), TEXT("tuotenumero"), shown, productNumber, nullptr, nullptr, nullptr, "productNumber"},
-    {"name", ValueType::text, TEXT("Nimi"), TEXT("tuotteen nimi tällä rivillä"), edited, partValue<part, &InvoiceItem::productName>, setMember<InvoiceItem, &InvoiceItem::productName>, nullptr, nullptr, "productName"},
-    {"quantity", ValueType::quantity, TEXT("Määrä"), nullptr, edited, partValue<part, &InvoiceItem::quantity>, setMember<InvoiceItem, &InvoiceItem::quantity>, nullptr, nullptr, "quantity"},
-    {"unit", ValueType::text, TEXT("Yksikkö"), nullptr, edited | Field::clearable, partValue<part, &InvoiceItem::unitCode>, setMember<InvoiceItem, &InvoiceItem::unitCode>, nullptr, nullptr, "unitCode"},
-    {"price", ValueType::price, TEXT("Hinta"), TEXT("yksikköhinta ilman arvonlisäveroa"), edited, partValue<part, &InvoiceItem::amountVatExcluded>, price<&InvoiceItem::setAmountVatExcluded>, nullptr, nullptr, "amountVatExcluded"},
-    {"priceWithVat", ValueType::price, TEXT("Verollinen hinta"), TEXT("yksikköhinta arvonlisäveroineen"), edited, partValue<part, &InvoiceItem::amountVatIncluded>, price<&InvoiceItem::setAmountVatIncluded>, nullptr, nullptr, "amountVatIncluded"},
-    {"priceIncludesVat", ValueType::flag, TEXT("Hinta sisältää veron"), nullptr, shown, [](const void *r) { return Value(!static_cast<const R *>(r)->item.vatExcluded); }},
-    {"vatRate", ValueType::percent, TEXT("Vero-%"), TEXT("arvonlisäveroprosentti"), edited, partValue<part, &InvoiceItem::vatRate>, setMember<InvoiceItem, &InvoiceItem::vatRate>, nullptr, nullptr, "vatRate"},
-    {"discount", ValueType::percent, TEXT("Alennus-%"), nullptr, edited | Field::clearable, partValue<part, &InvoiceItem::discount>, setMember<InvoiceItem, &InvoiceItem::discount>, nullptr, nullptr, "discount"},
-    {"text", ValueType::text, TEXT("Teksti"), TEXT("vapaa teksti rivin alle"), edited | Field::clearable | Field::multiline, partValue<part, &InvoiceItem::text>, setMember<InvoiceItem, &InvoiceItem::text>, nullptr, nullptr, "text"},
+    {"row", ValueType::integer, TEXT("Rivi"), TEXT("paikka laskulla, ensimmäinen on 1"), shown | Field::handle,
+     value<&R::position>},
+    {"id", ValueType::id, TEXT("Tunniste"), nullptr, shown, partValue<part, &InvoiceItem::id>, nullptr, nullptr,
+     nullptr, "id"},
+    {"product", ValueType::text, TEXT("Tuote"), TEXT("tuotenumero"), shown, productNumber, nullptr, nullptr, nullptr,
+     "productNumber"},
+    {"name", ValueType::text, TEXT("Nimi"), TEXT("tuotteen nimi tällä rivillä"), edited,
+     partValue<part, &InvoiceItem::productName>, setMember<InvoiceItem, &InvoiceItem::productName>, nullptr, nullptr,
+     "productName"},
+    {"quantity", ValueType::quantity, TEXT("Määrä"), nullptr, edited, partValue<part, &InvoiceItem::quantity>,
+     setMember<InvoiceItem, &InvoiceItem::quantity>, nullptr, nullptr, "quantity"},
+    {"unit", ValueType::text, TEXT("Yksikkö"), nullptr, edited | Field::clearable,
+     partValue<part, &InvoiceItem::unitCode>, setMember<InvoiceItem, &InvoiceItem::unitCode>, nullptr, nullptr,
+     "unitCode"},
+    {"price", ValueType::price, TEXT("Hinta"), TEXT("yksikköhinta ilman arvonlisäveroa"), edited,
+     partValue<part, &InvoiceItem::amountVatExcluded>, price<&InvoiceItem::setAmountVatExcluded>, nullptr, nullptr,
+     "amountVatExcluded"},
+    {"priceWithVat", ValueType::price, TEXT("Verollinen hinta"), TEXT("yksikköhinta arvonlisäveroineen"), edited,
+     partValue<part, &InvoiceItem::amountVatIncluded>, price<&InvoiceItem::setAmountVatIncluded>, nullptr, nullptr,
+     "amountVatIncluded"},
+    {"priceIncludesVat", ValueType::flag, TEXT("Hinta sisältää veron"), nullptr, shown,
+     [](const void *r) { return Value(!static_cast<const R *>(r)->item.vatExcluded); }},
+    {"vatRate", ValueType::percent, TEXT("Vero-%"), TEXT("arvonlisäveroprosentti"), edited,
+     partValue<part, &InvoiceItem::vatRate>, setMember<InvoiceItem, &InvoiceItem::vatRate>, nullptr, nullptr,
+     "vatRate"},
+    {"discount", ValueType::percent, TEXT("Alennus-%"), nullptr, edited | Field::clearable,
+     partValue<part, &InvoiceItem::discount>, setMember<InvoiceItem, &InvoiceItem::discount>, nullptr, nullptr,
+     "discount"},
+    {"text", ValueType::text, TEXT("Teksti"), TEXT("vapaa teksti rivin alle"),
+     edited | Field::clearable | Field::multiline, partValue<part, &InvoiceItem::text>,
+     setMember<InvoiceItem, &InvoiceItem::text>, nullptr, nullptr, "text"},
     {"net", ValueType::money, TEXT("Veroton"), nullptr, shown, value<&R::net>},
     {"total", ValueType::money, TEXT("Summa"), nullptr, shown, value<&R::total>},
 };

@@ -1,0 +1,3 @@
+#include "commandgroups.h"
+
+QVector<CommandGroup> commandGroups() { return {invoiceCommands(), customerCommands(), programCommands()}; }

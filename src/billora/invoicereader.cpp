@@ -1,0 +1,121 @@
+#include "invoicereader.h"
+
+#include "query.h"
+#include "registry.h"
+#include "settings.h"
+#include "task.h"
+#include "vat.h"
+
+#include <QHash>
+
+#include <memory>
+
+namespace {
+
+/** Invoices whose rows are read together. */
+constexpr int chunkSize = 256;
+
+/** Sums of an invoice's rows, and their own. */
+void addSums(InvoiceRecord &record, int roundingMode)
+{
+    Vat vat;
+    vat.setRoundingMode(roundingMode);
+    for (int i = 0; i < record.rows.size(); ++i) {
+        RowRecord &row = record.rows[i];
+        row.position = i + 1;
+        row.net = row.item.totalAmountVatExcluded();
+        row.total = row.item.totalAmountVatIncluded();
+        vat.add(row.total, row.item.vatRate);
+    }
+    record.net = vat.totalAmountVatExcluded();
+    record.vat = vat.totalVatAmount();
+    const QList<int> rates = vat.vatRates();
+    for (const int rate : rates)
+        record.vatRates.append(
+            {rate, vat.totalAmountVatExcluded(rate), vat.totalVatAmount(rate), vat.totalAmount(rate)});
+}
+
+/** Reads what belongs to the invoices of a chunk. */
+bool addDetails(Query &query, QVector<InvoiceRecord> &records, int roundingMode)
+{
+    QVector<int> ids;
+    QHash<int, InvoiceRecord *> byId;
+    for (InvoiceRecord &record : records) {
+        ids.append(record.invoice.id);
+        byId.insert(record.invoice.id, &record);
+    }
+    if (!query.fetchItemsOf(ids))
+        return false;
+    while (query.next()) {
+        RowRecord row;
+        query.invoiceItem(&row.item);
+        if (InvoiceRecord *record = byId.value(row.item.invoiceId))
+            record->rows.append(row);
+    }
+    if (query.hasReadError() || !query.fetchPaymentsOf(ids))
+        return false;
+    while (query.next()) {
+        PaymentRecord payment;
+        query.paymentListRow(&payment.payment, &payment.invoiceNumber, &payment.accountName);
+        if (InvoiceRecord *record = byId.value(payment.payment.invoiceId))
+            record->payments.append(payment);
+    }
+    for (InvoiceRecord &record : records)
+        addSums(record, roundingMode);
+    return !query.hasReadError();
+}
+
+} // namespace
+
+bool InvoiceReader::read(Task &task, const InvoiceSelection &selection, bool withDetails, const Each &each)
+{
+    DatabaseSession &session = task.context().session;
+    if (withDetails && !session.fetch(CachedList::settings))
+        return false;
+    Query *query = session.query();
+    const QDate day = selection.asOf.isValid() ? selection.asOf : task.reader.today();
+    // The rows of a chunk are read by a statement of their own while the list stands.
+    std::unique_ptr<Query> details;
+    if (withDetails)
+        details = session.newQuery();
+    const int roundingMode = withDetails ? task.session.registry().settings()->roundingMode() : 0;
+    if (!query->fetchInvoiceList(selection, withDetails))
+        return session.failQuery();
+    QVector<InvoiceRecord> chunk;
+    bool isWanted = true;
+    const auto pass = [&]() {
+        if (details && !chunk.isEmpty() && !addDetails(*details, chunk, roundingMode))
+            return task.session.fail(Failure::database, {details->lastError()});
+        for (const InvoiceRecord &record : qAsConst(chunk))
+            isWanted = isWanted && each(record);
+        chunk.clear();
+        return true;
+    };
+    while (isWanted && query->next()) {
+        InvoiceRecord record;
+        record.today = day;
+        query->invoiceListRow(&record.invoice, &record.customerNumber, &record.customerName, withDetails);
+        if (!details) {
+            isWanted = each(record);
+            continue;
+        }
+        chunk.append(record);
+        if (chunk.size() == chunkSize && !pass())
+            return false;
+    }
+    if (isWanted && query->hasReadError())
+        return session.failQuery();
+    query->finish();
+    return !isWanted || pass();
+}
+
+bool InvoiceReader::readWhole(Task &task, int id, InvoiceRecord &record)
+{
+    InvoiceSelection selection;
+    selection.ids.append(id);
+    selection.today = task.reader.today();
+    return read(task, selection, true, [&record](const InvoiceRecord &found) {
+        record = found;
+        return true;
+    });
+}

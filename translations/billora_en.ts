@@ -1,0 +1,11 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="fi">
+<context>
+    <name>billora</name>
+    <message>
+        <source>tehty</source>
+        <translation>done</translation>
+    </message>
+</context>
+</TS>
