@@ -54,6 +54,14 @@ constexpr FailureRow failures[] = {
      TEXT("laskuriviä ei löytynyt: id:%1")},
     {Failure::paymentIdUnknown, Problem::notFound, "payment", "billora payment list",
      TEXT("suoritusta ei löytynyt: id:%1")},
+    {Failure::layoutUnknown, Problem::notFound, "layout", "billora layout list",
+     TEXT("laskupohjaa ei löytynyt: \"%1\"")},
+    {Failure::scriptUnreadable, Problem::file, nullptr, nullptr, TEXT("laskupohjaa ei voi lukea")},
+    {Failure::scriptException, Problem::rule, nullptr, nullptr, TEXT("laskupohjan virhe: %1 (rivi %2)")},
+    {Failure::scriptWithoutFunction, Problem::rule, nullptr, nullptr,
+     TEXT("laskupohjassa ei ole tulostavaa funktiota")},
+    {Failure::fileUnwritable, Problem::file, nullptr, nullptr, TEXT("tiedostoa %1 ei voi kirjoittaa: %2")},
+    {Failure::fileExists, Problem::exists, nullptr, nullptr, TEXT("tiedosto on jo olemassa: %1")},
     {Failure::invoiceTotalTooLarge, Problem::rule, nullptr, nullptr, TEXT("laskun loppusumma on liian suuri")},
 };
 

@@ -40,10 +40,10 @@ constexpr Command commands[] = {
     {"--edit-payment", "edit-payment", call<parseSavePaymentCommand, editing>},
     {"--remove-payments", "remove-payments", call<parseFindPaymentsCommand, removing>},
     {"--export-invoices", "export-invoices", call<parseExportInvoicesCommand>},
-    {"--export-invoice-list", "export-invoice-list", call<parseExportPrintCommand, ListKind::invoices>},
-    {"--export-customer-list", "export-customer-list", call<parseExportPrintCommand, ListKind::customers>},
-    {"--export-product-list", "export-product-list", call<parseExportPrintCommand, ListKind::products>},
-    {"--export-payment-list", "export-payment-list", call<parseExportPrintCommand, ListKind::payments>},
+    {"--export-invoice-list", "export-invoice-list", call<parseExportPrintCommand, ExportList::invoices>},
+    {"--export-customer-list", "export-customer-list", call<parseExportPrintCommand, ExportList::customers>},
+    {"--export-product-list", "export-product-list", call<parseExportPrintCommand, ExportList::products>},
+    {"--export-payment-list", "export-payment-list", call<parseExportPrintCommand, ExportList::payments>},
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 #define EXPORTCOMMANDS_H
 
 #include "commandcontext.h"
+#include "exportlist.h"
 
 #include <QStringList>
 
@@ -11,9 +12,7 @@
 /** Invoices, one PDF or Finvoice file each, or all in one CSV file. */
 void parseExportInvoicesCommand(CommandContext &context, QStringList &args);
 
-enum class ListKind { invoices = 0, customers = 1, products = 2, payments = 3 };
-
 /** A list as one PDF or CSV file. */
-void parseExportPrintCommand(CommandContext &context, QStringList &args, ListKind kind);
+void parseExportPrintCommand(CommandContext &context, QStringList &args, ExportList::Kind kind);
 
 #endif

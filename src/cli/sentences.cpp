@@ -43,6 +43,12 @@ constexpr FailureSentence failures[] = {
     {Failure::invoiceNumberUnknown, badData, TEXT("Laskua ei löytynyt numerolla %1")},
     {Failure::invoiceItemIdUnknown, badData, TEXT("Laskuriviä ei löytynyt tunnisteella %1")},
     {Failure::paymentIdUnknown, badData, TEXT("Maksusuoritusta ei löytynyt tunnisteella %1")},
+    {Failure::layoutUnknown, ExitCode::badCommandLine, TEXT("Laskupohjaa ei löytynyt nimellä %1")},
+    {Failure::scriptUnreadable, ExitCode::databaseFailure, TEXT("Tulostuspohjaa ei voi lukea")},
+    {Failure::scriptException, badData, TEXT("%1 (rivi %2)")},
+    {Failure::scriptWithoutFunction, badData, TEXT("Tulostuspohjassa ei ole tulostavaa funktiota")},
+    {Failure::fileUnwritable, ExitCode::databaseFailure, TEXT("Tiedostoa %1 ei voi kirjoittaa: %2")},
+    {Failure::fileExists, badData, TEXT("Tiedosto on jo olemassa: %1")},
     {Failure::invoiceTotalTooLarge, badData, TEXT("Laskun loppusumma on liian suuri")},
 };
 

@@ -135,7 +135,8 @@ bool ValueParser::parseReferenceNumber(const QString &key, const QString &value,
     return true;
 }
 
-bool ValueParser::parsePrintFormat(const QString &key, const QString &value, int &format, bool allowFinvoice)
+bool ValueParser::parsePrintFormat(const QString &key, const QString &value, std::optional<PrintFormat> &format,
+                                   bool allowFinvoice)
 {
     const struct {
         const char *name;
@@ -150,15 +151,6 @@ bool ValueParser::parsePrintFormat(const QString &key, const QString &value, int
     }
     format = pdfFormat;
     return fail(tr("Virheellinen tulosteen tallennusmuoto: %1=%2"), key, value);
-}
-
-int ValueParser::guessPrintFormat(const QString &fileName, bool allowFinvoice)
-{
-    if (fileName.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive))
-        return csvFormat;
-    if (allowFinvoice && fileName.endsWith(QLatin1String(".xml"), Qt::CaseInsensitive))
-        return finvoiceFormat;
-    return pdfFormat;
 }
 
 bool ValueParser::parseCsvDelimiter(const QString &key, const QString &value, QString &delimiter)

@@ -2,15 +2,16 @@
 #define VALUEPARSER_H
 
 #include "decimalformat.h"
+#include "printformat.h"
 
 #include <QCoreApplication>
 #include <QDate>
 #include <QString>
+#include <optional>
 
 class CommandStatus;
 
 /** What an export writes. */
-enum PrintFormat { pdfFormat = 0, csvFormat = 1, finvoiceFormat = 2 };
 
 /**
  * Turns parameter values into typed ones. Each parser stores the result and returns true, or sets the status to a
@@ -40,8 +41,8 @@ public:
     [[nodiscard]] bool parseReferenceNumber(const QString &key, const QString &value, QString &result);
 
     /** On failure the format is PDF. */
-    [[nodiscard]] bool parsePrintFormat(const QString &key, const QString &value, int &format, bool allowFinvoice);
-    static int guessPrintFormat(const QString &fileName, bool allowFinvoice);
+    [[nodiscard]] bool parsePrintFormat(const QString &key, const QString &value, std::optional<PrintFormat> &format,
+                                        bool allowFinvoice);
     [[nodiscard]] bool parseCsvDelimiter(const QString &key, const QString &value, QString &delimiter);
 
     /** The failure "Virheellinen luku". */

@@ -189,6 +189,8 @@ private:
 
     template <class Record> int newestId(const char *condition = "");
     static QString invoiceListBalance(const InvoiceSelection &selection);
+    static QString invoiceListOrder(const InvoiceSelection &selection);
+    QString invoiceListIds(const InvoiceSelection &selection, QVariantList &params) const;
     QString invoiceListSource(const InvoiceSelection &selection, QVariantList &params) const;
 
     bool fetchPaymentAmounts(const InvoiceCriteria *c);

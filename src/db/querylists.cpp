@@ -222,6 +222,27 @@ QString Query::invoiceListSource(const InvoiceSelection &selection, QVariantList
     return sql;
 }
 
+QString Query::invoiceListOrder(const InvoiceSelection &selection)
+{
+    const QString balance = invoiceListBalance(selection);
+    const SortColumn *column = findColumn(sortColumns, selection.sort);
+    const QString order = column ? QString(QLatin1String(column->column)).replace(QLatin1String("%1"), balance)
+                                 : QStringLiteral("i.number");
+    const QString direction = selection.descending ? QStringLiteral(" DESC") : QString();
+    QString sql = QLatin1String(" ORDER BY ") + order + direction + QLatin1String(", i.number") + direction +
+                  QLatin1String(", i.id") + direction;
+    if (selection.limit >= 0)
+        sql += QLatin1String(" LIMIT ") + QString::number(selection.limit);
+    return sql;
+}
+
+/** The selected invoices' ids as a statement of their own. */
+QString Query::invoiceListIds(const InvoiceSelection &selection, QVariantList &params) const
+{
+    const QString ids = QLatin1String("SELECT i.id") + invoiceListSource(selection, params);
+    return selection.limit < 0 ? ids : ids + invoiceListOrder(selection);
+}
+
 bool Query::fetchInvoiceList(const InvoiceSelection &selection, bool withDetails)
 {
     const QString balance = invoiceListBalance(selection);
@@ -230,14 +251,7 @@ bool Query::fetchInvoiceList(const InvoiceSelection &selection, bool withDetails
         sql += QLatin1String(detailColumns);
     QVariantList params;
     sql += invoiceListSource(selection, params);
-    const SortColumn *column = findColumn(sortColumns, selection.sort);
-    const QString order = column ? QString(QLatin1String(column->column)).replace(QLatin1String("%1"), balance)
-                                 : QStringLiteral("i.number");
-    const QString direction = selection.descending ? QStringLiteral(" DESC") : QString();
-    sql += QLatin1String(" ORDER BY ") + order + direction + QLatin1String(", i.number") + direction +
-           QLatin1String(", i.id") + direction;
-    if (selection.limit >= 0)
-        sql += QLatin1String(" LIMIT ") + QString::number(selection.limit);
+    sql += invoiceListOrder(selection);
     return execute(sql, params);
 }
 
@@ -293,8 +307,8 @@ bool Query::fetchPaymentList(const PaymentCriteria &payments, const InvoiceSelec
     const bool hasConditions =
         buildPaymentWhereClause(&payments, nullptr, sql, params, QStringLiteral("p."), QStringLiteral(" WHERE "));
     if (invoices.restricts()) {
-        sql += QLatin1String(hasConditions ? " AND " : " WHERE ") + QLatin1String("p.invoice_id IN (SELECT i.id");
-        sql += invoiceListSource(invoices, params) + QLatin1Char(')');
+        sql += QLatin1String(hasConditions ? " AND " : " WHERE ") + QLatin1String("p.invoice_id IN (");
+        sql += invoiceListIds(invoices, params) + QLatin1Char(')');
     }
     const SortColumn *column = findColumn(paymentSortColumns, sort);
     const QString direction = descending ? QStringLiteral(" DESC") : QString();

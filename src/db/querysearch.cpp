@@ -84,6 +84,11 @@ bool Query::buildInvoiceWhereClause(const InvoiceCriteria *c, QString &sql, QLis
     clause.add(QStringLiteral("%1id IN (SELECT invoice_id FROM invoice_item WHERE text ") + likeOperator() +
                    QLatin1String(" ?") + escapeClause() + QLatin1Char(')'),
                c->text);
+    if (c->selection) {
+        QVariantList values;
+        const QString ids = invoiceListIds(*c->selection, values);
+        clause.addAll((QLatin1String("%1id IN (") + ids + QLatin1Char(')')).toLatin1().constData(), values);
+    }
     return clause.appendTo(sql, params, keyword);
 }
 

@@ -4,6 +4,10 @@
 #include <QDate>
 #include <QString>
 
+#include <memory>
+
+class InvoiceSelection;
+
 /** A search for invoices. A field that holds an invalid date, a negative number or an empty text sets no condition. */
 class InvoiceCriteria {
 public:
@@ -19,9 +23,10 @@ public:
     int paymentState = -1;
     QDate balanceDate; ///< when valid, the payment state is judged by the payments up to this date
     QString referenceNumber;
-    QString text;            ///< a LIKE pattern for the rows' texts, with "\" before a literal "%", "_" or "\"
-    int limit = -1;          ///< number of invoices wanted
-    bool descending = false; ///< highest numbers first
+    QString text; ///< a LIKE pattern for the rows' texts, with "\" before a literal "%", "_" or "\"
+    std::shared_ptr<const InvoiceSelection> selection; ///< what must hold besides, null for nothing
+    int limit = -1;                                    ///< number of invoices wanted
+    bool descending = false;                           ///< highest numbers first
 
     void clear() { *this = InvoiceCriteria(); }
     void copy(InvoiceCriteria *target) const { *target = *this; }

@@ -31,6 +31,14 @@ enum Code {
     invoiceItemIdUnknown,
     paymentIdUnknown,
 
+    // Documents
+    layoutUnknown, ///< name
+    scriptUnreadable,
+    scriptException, ///< text, line
+    scriptWithoutFunction,
+    fileUnwritable, ///< file name, reason
+    fileExists,     ///< file name; never overwritten where this is told
+
     // Rules
     invoiceTotalTooLarge, ///< total or balance beyond 32 bits of cents
 };

@@ -1,0 +1,177 @@
+#include "exportinvoices.h"
+
+#include "customer.h"
+#include "exportfilename.h"
+#include "exporttools.h"
+#include "pdfprinter.h"
+#include "printscript.h"
+#include "printscriptmanager.h"
+#include "scriptloader.h"
+#include "xmlscriptmanager.h"
+#include "xmlscriptmodel.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+#include <limits>
+
+namespace {
+
+using ExportInvoices::File;
+using ExportInvoices::Request;
+
+constexpr int allPages = std::numeric_limits<int>::max();
+
+/** Loads the script by its name: a built-in one, or a stored one for invoices. @return false with the failure told */
+bool loadNamedScript(UseCaseContext &context, const QString &name, PrintScriptManager &manager, bool &loaded)
+{
+    Registry &registry = context.session.registry();
+    const ScriptLoader loader(&registry);
+    const int builtIn = Registry::builtInPrintScriptNames().indexOf(name);
+    if (builtIn >= 0) {
+        loaded = loader.loadInvoiceScript(&manager, Registry::builtInPrintScriptIds().at(builtIn));
+        return true;
+    }
+    for (int i = 0; i < registry.printScriptCount(); ++i) {
+        const PrintScript *stored = registry.printScript(i);
+        if (stored->type == QLatin1String("invoice") && stored->name == name) {
+            loaded = loader.loadInvoiceScript(&manager, stored->id);
+            return true;
+        }
+    }
+    return context.listener.fail(Failure::layoutUnknown, {name});
+}
+
+bool loadInvoiceScript(UseCaseContext &context, const std::optional<QString> &name, PrintScriptManager &manager)
+{
+    if (!context.session.fetch(CachedList::printScripts))
+        return false;
+    bool loaded = false;
+    if (!name)
+        loaded = ScriptLoader(&context.session.registry()).loadInvoiceScript(&manager);
+    else if (!loadNamedScript(context, *name, manager, loaded))
+        return false;
+    return ExportTools::checkLoaded(context, manager, loaded);
+}
+
+/**
+ * Writes each invoice into a file of its own. The answer is given afterwards: a file that cannot be written fails the
+ * command, and there is no saying so once an answer has begun.
+ * @param write  writes the model's one invoice to a file through the host
+ */
+template <class Model, class Host, class Write>
+bool writeInvoices(UseCaseContext &context, const Request &request, const QString &form, InvoicePrintModel &all,
+                   Host &host, Write write, QVector<File> &files)
+{
+    Model single(&context.session.registry());
+    single.setPrintType(request.printType);
+    for (int i = 0; i < all.invoiceCount(); ++i) {
+        const Invoice &invoice = *all.invoice(i);
+        const QString name = ExportFileName::make(form, invoice, all.customer(invoice), request.printType);
+        if (request.isTrial) {
+            files.append({name, invoice.id, invoice.number, {}});
+            continue;
+        }
+        if (request.makesFolders)
+            QDir().mkpath(QFileInfo(name).path());
+        single.clear();
+        single.copyInvoice(&all, i);
+        write(name, single);
+        if (!host.lastError().isEmpty())
+            return ExportTools::failWriting(context, name, host.lastError());
+        files.append(
+            {name, invoice.id, invoice.number, host.hasException() ? ExportTools::exception(host) : QStringList()});
+        if (request.progress)
+            request.progress(i + 1, all.invoiceCount());
+    }
+    return true;
+}
+
+bool printInvoices(UseCaseContext &context, const Request &request, const QString &form, InvoicePrintModel &all,
+                   QVector<File> &files)
+{
+    PrintScriptManager manager;
+    if (!loadInvoiceScript(context, request.script, manager))
+        return false;
+    const std::unique_ptr<QPrinter> printer = PdfPrinter::create();
+    const auto print = [&](const QString &name, InvoicePrintModel &model) {
+        printer->setOutputFileName(name);
+        manager.print(printer.get(), &model, 0, allPages, false);
+    };
+    return writeInvoices<InvoicePrintModel>(context, request, form, all, manager, print, files);
+}
+
+/** A script that refuses an invoice before its first element leaves a document that is none. */
+void removeEmptyDocument(const QString &name)
+{
+    QFile file(name);
+    static const QRegularExpression element(QStringLiteral("<[A-Za-z]"));
+    const bool isEmpty =
+        file.open(QIODevice::ReadOnly) && !element.match(QString::fromLatin1(file.readAll())).hasMatch();
+    file.close();
+    if (isEmpty)
+        file.remove();
+}
+
+bool writeFinvoices(UseCaseContext &context, const Request &request, const QString &form, InvoicePrintModel &all,
+                    QVector<File> &files)
+{
+    if (!context.session.fetch(CachedList::printScripts))
+        return false;
+    XmlScriptManager manager;
+    manager.setSoapEnvEnabled(request.writeSoap);
+    const bool loaded = ScriptLoader(&context.session.registry()).loadFinvoiceScript(&manager);
+    if (!ExportTools::checkLoaded(context, manager, loaded))
+        return false;
+    const auto write = [&](const QString &name, XmlScriptModel &model) {
+        manager.write(name, false, &model);
+        if (manager.hasException())
+            removeEmptyDocument(name);
+    };
+    return writeInvoices<XmlScriptModel>(context, request, form, all, manager, write, files);
+}
+
+bool writeCsv(UseCaseContext &context, const Request &request, const QString &name, InvoicePrintModel &model,
+              QVector<File> &files)
+{
+    if (!request.isTrial) {
+        if (request.makesFolders)
+            QDir().mkpath(QFileInfo(name).path());
+        if (!model.exportToCSV(name, request.csvDelimiter))
+            return ExportTools::failWriting(context, name, model.lastError());
+    }
+    files.append({name, -1, 0, {}});
+    return true;
+}
+
+} // namespace
+
+bool ExportInvoices::run(UseCaseContext &context, const Request &request, QVector<File> &files)
+{
+    if (!context.session.fetch(CachedList::settings) || !context.session.fetch(CachedList::bankAccounts))
+        return false;
+    InvoicePrintModel model(&context.session.registry());
+    request.criteria.copy(model.criteria());
+    model.setPrintType(request.printType);
+    if (!ExportTools::runModel(context, model))
+        return false;
+    QSet<int> customers;
+    for (int i = 0; i < model.invoiceCount(); ++i)
+        customers.insert(model.invoice(i)->customerId);
+    if (!context.session.fetchCustomers(customers))
+        return false;
+    const PrintFormat format = request.format.value_or(ExportTools::guessFormat(request.fileName, true));
+    const auto form = [&request](const char *usual) {
+        return request.fileName.isEmpty() ? QString::fromLatin1(usual) : request.fileName;
+    };
+    switch (format) {
+    case csvFormat:
+        return writeCsv(context, request, form("laskut.csv"), model, files);
+    case finvoiceFormat:
+        return writeFinvoices(context, request, form("lasku-$i.xml"), model, files);
+    default:
+        return printInvoices(context, request, form("lasku-$i.pdf"), model, files);
+    }
+}

@@ -1,0 +1,46 @@
+#ifndef EXPORTINVOICES_H
+#define EXPORTINVOICES_H
+
+#include "invoicecriteria.h"
+#include "invoiceprintmodel.h"
+#include "printformat.h"
+
+#include <QVector>
+
+#include <functional>
+#include <optional>
+
+struct UseCaseContext;
+
+/** Writes invoices, one PDF or Finvoice file each, or all in one CSV file. */
+namespace ExportInvoices {
+
+struct Request {
+    InvoiceCriteria criteria;
+    QString fileName;              ///< a template, see ExportFileName; empty: lasku-$i.pdf, lasku-$i.xml, laskut.csv
+    std::optional<QString> script; ///< the name of an invoice layout; else the one that the settings name
+    std::optional<PrintFormat> format; ///< else by the file name
+    QString csvDelimiter = QStringLiteral(",");
+    bool writeSoap = false; ///< Finvoice in its transport envelope
+    int printType = InvoicePrintModel::ownType;
+    bool makesFolders = false; ///< of the file names
+    bool isTrial = false;      ///< tells the files and writes none
+    /** Called after each document. */
+    std::function<void(int done, int total)> progress;
+};
+
+/** A file that was written. */
+struct File {
+    QString fileName;
+    int invoiceId = -1; ///< -1: all invoices
+    int invoiceNumber = 0;
+    /** What the script threw while it wrote: text and line (Failure::scriptException); empty for none. */
+    QStringList exception;
+};
+
+/** @return false with the failure told; files that were written before stay */
+[[nodiscard]] bool run(UseCaseContext &context, const Request &request, QVector<File> &files);
+
+} // namespace ExportInvoices
+
+#endif
