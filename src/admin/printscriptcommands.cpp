@@ -34,12 +34,12 @@ bool readScripts(CommandContext &context, QVector<PrintScript> &scripts)
     Query *query = context.session.query();
     if (!query->fetchPrintScriptDetails())
         return context.session.failQuery();
-    while (query->next()) {
+    const bool isWhole = query->readAll([&] {
         PrintScript script;
         query->printScriptDetails(&script);
         scripts.append(script);
-    }
-    return true;
+    });
+    return isWhole || context.session.failQuery();
 }
 
 template <class Matches>

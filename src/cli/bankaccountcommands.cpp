@@ -41,11 +41,18 @@ struct BankAccountKind {
         return state.found;
     }
 
+    /** Banks print the codes in groups; they are stored as they are compared and drawn. */
+    template <auto member> static bool bankCode(CommandContext &, const QString &, const QString &value, State &state)
+    {
+        state.record.*member = BankAccount::normalizedCode(value);
+        return true;
+    }
+
     static constexpr Parameter<State> parameters[] = {
         {"name", Parameters::text<&BankAccount::name>},
         {"shortName", Parameters::text<&BankAccount::shortName>},
-        {"iban", Parameters::text<&BankAccount::iban>},
-        {"bic", Parameters::text<&BankAccount::bic>},
+        {"iban", bankCode<&BankAccount::iban>},
+        {"bic", bankCode<&BankAccount::bic>},
         {"rowNumber", Parameters::integer<&BankAccount::rowNumber>},
         {"findByBankAccountId", findById, true},
         {"findByName", findByName, true},

@@ -110,12 +110,23 @@ bool number(CommandContext &context, const QString &key, const QString &value, S
     return true;
 }
 
+bool checkTerms(CommandContext &context, const Invoice &invoice)
+{
+    return invoice.canBeDue() || context.values.failNumber(QStringLiteral("paymentTerms"), invoice.paymentTerms);
+}
+
+bool paymentTerms(CommandContext &context, const QString &, const QString &value, State &state)
+{
+    state.record.paymentTerms = value;
+    return checkTerms(context, state.record);
+}
+
 bool date(CommandContext &context, const QString &key, const QString &value, State &state)
 {
     if (!context.values.parseDateValue(key, value, state.record.date))
         return false;
     state.record.dueDate = state.record.calculateDueDate(); // with the payment terms known so far
-    return true;
+    return checkTerms(context, state.record);
 }
 
 constexpr Parameter<State> parameters[] = {
@@ -124,7 +135,7 @@ constexpr Parameter<State> parameters[] = {
     {"date", date},
     {"dueDate", Parameters::date<&Invoice::dueDate>},
     {"deliveryDate", Parameters::date<&Invoice::deliveryDate>},
-    {"paymentTerms", Parameters::text<&Invoice::paymentTerms>},
+    {"paymentTerms", paymentTerms},
     {"delivery", Parameters::text<&Invoice::delivery>},
     {"buyerRef", Parameters::text<&Invoice::buyerRef>},
     {"sellerRef", Parameters::text<&Invoice::sellerRef>},

@@ -99,7 +99,8 @@ bool saveInvoiceItem(CommandContext &context, const ParameterList &words, SaveCo
         !checkRequired(context, mode, state))
         return false;
     InvoiceItem &item = state.record;
-    if (std::llabs(item.totalAmountVatIncluded()) > std::numeric_limits<int>::max())
+    const long long total = item.totalAmountVatIncluded();
+    if (total > std::numeric_limits<int>::max() || total < -std::numeric_limits<int>::max())
         return context.status.fail(ExitCode::badData, CommandContext::tr("Laskurivin summa on liian suuri"));
     Query *query = context.session.query();
     if (mode == SaveCommandMode::add) {

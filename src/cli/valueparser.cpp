@@ -5,6 +5,7 @@
 #include "invoice.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace {
 
@@ -110,6 +111,8 @@ bool ValueParser::parseDecimalNumberValue(const QString &key, const QString &val
     long long number = 0;
     if (!parseDecimalNumberValue(key, value, fractionDigits, number))
         return false;
+    if (number > std::numeric_limits<int>::max() || number < std::numeric_limits<int>::min())
+        return failNumber(key, value); // the columns hold 32 bits: another number would be stored
     result = static_cast<int>(number);
     return true;
 }

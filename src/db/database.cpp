@@ -5,9 +5,11 @@
 #include "schemaupgrade.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QSqlRecord>
 #include <QTextStream>
 
 #include <memory>
@@ -99,12 +101,30 @@ bool Database::createTables(const QString &sellerName)
 
 bool Database::upgradeStep(QSqlQuery &query, int fromVersion)
 {
+    // All of a step or nothing: the version number tells what is there.
+    if (!transaction())
+        return fail(connection(false).lastError().text());
     const QStringList statements = SchemaUpgrade::statements(fromVersion, isSQLite());
     for (const QString &sql : statements) {
-        if (!query.exec(sql))
-            return fail(query.lastError().text());
+        // A step that other programs left half done is completed; a failure of the last one is told as they do.
+        const bool isDone = fromVersion < schemaVersion - 1 && isAddedColumn(sql);
+        if (!isDone && !query.exec(sql)) {
+            fail(query.lastError().text());
+            query.finish();
+            rollback();
+            return false;
+        }
     }
-    return true;
+    query.finish();
+    return connection(false).commit() || fail(connection(false).lastError().text());
+}
+
+/** Whether the statement adds a column that is there already. */
+bool Database::isAddedColumn(const QString &sql) const
+{
+    static const QRegularExpression addition(QStringLiteral("^ALTER TABLE (\\w+) ADD (\\w+) "));
+    const QRegularExpressionMatch match = addition.match(sql);
+    return match.hasMatch() && connection(false).record(match.captured(1)).contains(match.captured(2));
 }
 
 DatabaseCheck Database::check() const { return DatabaseCheck(connection(false), isSQLite()); }

@@ -84,6 +84,7 @@ protected:
      * @return the outcome of the last statement run
      */
     bool upgradeStep(QSqlQuery &query, int fromVersion);
+    bool isAddedColumn(const QString &sql) const;
     /** The statements of the creation script. @return false when the resource cannot be read */
     bool readCreationScript(QStringList &statements);
     /** Sets the text of lastError() and returns false. */

@@ -18,6 +18,10 @@ constexpr int defaultPort = 5432;
 /** How long a statement waits for another client's lock before it fails. */
 constexpr int lockTimeoutMs = 5000;
 
+/** A server that does not answer, or is gone without a word, is given up: seconds, and milliseconds for unsent data. */
+constexpr char connectOptions[] =
+    "connect_timeout=10;keepalives_idle=30;keepalives_interval=10;keepalives_count=3;tcp_user_timeout=60000";
+
 /** Any constant serves, as long as every writer of this program takes the same. */
 constexpr int writerLock = 0x42494c4c;
 
@@ -40,6 +44,8 @@ bool PostgreSQLDatabase::open(QSettings *settings)
     database.setUserName(settings->value(QStringLiteral("username"), QStringLiteral("billora")).toString());
     database.setPassword(settings->value(QStringLiteral("password")).toString());
 
+    database.setConnectOptions(QLatin1String(connectOptions));
+
     bool ok = database.open();
     m_exists = ok || !database.lastError().databaseText().trimmed().endsWith(QLatin1String("does not exist"));
     if (!m_exists && isCreateIfNotExist())
@@ -47,7 +53,9 @@ bool PostgreSQLDatabase::open(QSettings *settings)
     if (!ok)
         return lastError().isEmpty() ? fail(database.lastError().text()) : false;
     // A client that stopped in the middle must not keep the others waiting for ever.
-    database.exec(QStringLiteral("SET lock_timeout = '%1ms'").arg(lockTimeoutMs));
+    QSqlQuery limit(database);
+    if (!limit.exec(QStringLiteral("SET lock_timeout = '%1ms'").arg(lockTimeoutMs)))
+        return fail(limit.lastError().text());
 
     const int version = upgrade();
     if (version == noTables)
@@ -109,7 +117,7 @@ int PostgreSQLDatabase::upgradeFrom(int version)
 {
     QSqlQuery query(connection(false));
     bool ok = true;
-    for (int from = version; from < schemaVersion; ++from)
+    for (int from = version; ok && from < schemaVersion; ++from)
         ok = upgradeStep(query, from);
     if (!ok)
         qCWarning(databaseLog).noquote() << query.lastError().text();

@@ -1,6 +1,8 @@
 #ifndef QUERY_H
 #define QUERY_H
 
+#include "invoicecriteria.h"
+
 #include <QDate>
 #include <QHash>
 #include <QObject>
@@ -10,7 +12,6 @@
 class BankAccount;
 class Customer;
 class Invoice;
-class InvoiceCriteria;
 class InvoiceItem;
 class InvoiceSelection;
 class Payment;
@@ -33,6 +34,24 @@ public:
 
     QString lastError() const;
     bool next() { return m_query.next(); }
+    /**
+     * Steps through all rows of a fetch: the one loop over them.
+     * @param take  called on each row
+     * @return false when the reading broke on the way, with the reason in lastError(): what was taken is not all
+     */
+    template <class Take> [[nodiscard]] bool readAll(Take take)
+    {
+        while (next())
+            take();
+        return !hasReadError();
+    }
+    /** The same after an invoice search. */
+    template <class Take> [[nodiscard]] bool readAllInvoices(Take take)
+    {
+        while (nextInvoice())
+            take();
+        return !hasReadError();
+    }
     bool last() { return m_query.last(); }
     void finish() { m_query.finish(); }
     /** Whether next() ended the rows because of a failure, which lastError() tells, and not at their end. */
@@ -57,7 +76,7 @@ public:
     [[nodiscard]] bool fetchPrintScriptDetails(int id);
     [[nodiscard]] bool fetchSettings();
 
-    // Searches; null criteria are not allowed except where said. The criteria must outlive the reading of the rows.
+    // Searches; null criteria are not allowed except where said.
     int fetchInvoiceCount(const InvoiceCriteria *c); ///< -1 on failure
     [[nodiscard]] bool fetchInvoiceSummaries(const InvoiceCriteria *c);
     [[nodiscard]] bool fetchInvoiceDetails(const InvoiceCriteria *c);
@@ -202,10 +221,10 @@ private:
 
     QHash<QString, QSqlQuery> m_statements; ///< the kept ones by their text; m_query is one of them
     bool m_prepareFailed = false;
-    QString m_refusal;                                  ///< of a value of the last statement
-    const InvoiceCriteria *m_invoiceCriteria = nullptr; ///< of the last invoice search, not owned
-    QHash<int, int> m_paidAmounts;                      ///< invoice id: payments up to the balance date, cents
-    int m_totalColumn = -1;                             ///< column of the total in the current invoice search
+    QString m_refusal;                 ///< of a value of the last statement
+    InvoiceCriteria m_invoiceCriteria; ///< of the last invoice search
+    QHash<int, int> m_paidAmounts;     ///< invoice id: payments up to the balance date, cents
+    int m_totalColumn = -1;            ///< column of the total in the current invoice search
     int m_invoiceBalanceMode = 0;
 };
 

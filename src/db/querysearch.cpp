@@ -145,7 +145,7 @@ bool Query::fetchInvoices(const QString &columns, int totalColumn, const Invoice
     if (c->limit > 0)
         sql += QLatin1String(" LIMIT ") + QString::number(c->limit);
     m_totalColumn = totalColumn;
-    m_invoiceCriteria = c;
+    m_invoiceCriteria = *c;
     return execute(sql, params);
 }
 
@@ -216,7 +216,7 @@ bool Query::fetchInvoicesAndPayments(const InvoiceCriteria *c, const PaymentCrit
     const bool restricted = buildPaymentWhereClause(p, c, sql, params, QStringLiteral("p."), where);
     appendInvoiceRestriction(c, sql, params, restricted);
     m_totalColumn = invoiceAndPaymentTotalColumn;
-    m_invoiceCriteria = c;
+    m_invoiceCriteria = *c;
     return execute(sql + QLatin1String(" ORDER BY p.date, i.number"), params);
 }
 
@@ -228,22 +228,21 @@ bool Query::fetchPaymentAmounts(const InvoiceCriteria *c)
     untilBalanceDate.dateTo = c->balanceDate;
     if (!fetchPayments(&untilBalanceDate, c))
         return false;
-    while (next()) {
+    return readAll([this] {
         Payment record;
         payment(&record);
         m_paidAmounts[record.invoiceId] += record.amount;
-    }
-    return !hasReadError();
+    });
 }
 
 bool Query::nextInvoice()
 {
-    if (!m_invoiceCriteria || !m_invoiceCriteria->balanceDate.isValid())
+    if (!m_invoiceCriteria.balanceDate.isValid())
         return next();
     while (next()) {
         const int balance = m_query.value(m_totalColumn).toInt() - m_paidAmounts.value(m_query.value(0).toInt());
         const bool isPaid = balance == 0;
-        const int wanted = m_invoiceCriteria->paymentState;
+        const int wanted = m_invoiceCriteria.paymentState;
         if ((wanted != InvoiceCriteria::paid || isPaid) && (wanted != InvoiceCriteria::open || !isPaid))
             return true;
     }
@@ -262,7 +261,7 @@ void Query::invoiceSummary(Invoice *record) const
     record->referenceNumber = m_query.value(7).toString();
     record->totalAmount = m_query.value(8).toInt();
     record->balance = m_query.value(9).toInt();
-    if (m_invoiceBalanceMode == 1 && m_invoiceCriteria && m_invoiceCriteria->balanceDate.isValid())
+    if (m_invoiceBalanceMode == 1 && m_invoiceCriteria.balanceDate.isValid())
         record->balance = record->totalAmount - m_paidAmounts.value(record->id);
 }
 

@@ -37,11 +37,11 @@ template <class List, class Matches> int indexOfMatch(const List &list, Matches 
 /** Reads all rows into new records. @return false, with nothing left, when the reading fails on the way */
 template <class Record> bool readAll(Query &query, void (Query::*read)(Record *) const, QList<Record *> &records)
 {
-    while (query.next()) {
+    const bool isWhole = query.readAll([&] {
         records.append(new Record);
         (query.*read)(records.last());
-    }
-    if (!query.hasReadError())
+    });
+    if (isWhole)
         return true;
     qDeleteAll(records);
     records.clear();
@@ -118,12 +118,7 @@ void Registry::deletePrintScripts()
 
 bool Registry::fetchSettings(Query *query)
 {
-    if (!query->fetchSettings())
-        return false;
-    if (query->next())
-        query->settings(m_settings.get());
-    query->finish();
-    return true;
+    return query->fetchSettings() && query->readAll([&] { query->settings(m_settings.get()); });
 }
 
 bool Registry::fetchCustomers(Query *query)

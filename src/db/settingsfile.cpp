@@ -53,5 +53,10 @@ bool SettingsFile::createPrivate(const QString &fileName)
     if (QFile::exists(fileName))
         return true;
     QFile file(fileName);
-    return file.open(QIODevice::WriteOnly) && file.setPermissions(QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    return file.open(QIODevice::WriteOnly) && makePrivate(fileName);
+}
+
+bool SettingsFile::makePrivate(const QString &fileName)
+{
+    return QFile::setPermissions(fileName, QFileDevice::ReadOwner | QFileDevice::WriteOwner);
 }

@@ -24,6 +24,8 @@ void makeFolder(const QString &fileName);
 
 /** Creates the file, readable by its owner alone (it may come to hold a password), unless it exists. */
 bool createPrivate(const QString &fileName);
+/** Makes a file that exists readable by its owner alone. */
+bool makePrivate(const QString &fileName);
 
 } // namespace SettingsFile
 

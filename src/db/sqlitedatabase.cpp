@@ -78,12 +78,19 @@ bool SQLiteDatabase::backupTo(const QString &filename)
 {
     if (QFileInfo::exists(filename))
         return fail(tr("Tiedosto on jo olemassa: %1").arg(filename));
+    // Made here and empty, so that it is ours, whoever else makes a file of the name; an absolute path is a file to the
+    // library, never a database in memory.
+    QFile target(QFileInfo(filename).absoluteFilePath());
+    if (!target.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+        return fail(tr("Tiedostoa %1 ei voi kirjoittaa: %2").arg(filename, target.errorString()));
+    target.setPermissions(QFile::permissions(connection(false).databaseName()));
+    target.close();
     QSqlQuery query(connection(false));
     query.prepare(QStringLiteral("VACUUM INTO ?"));
-    query.bindValue(0, filename);
+    query.bindValue(0, target.fileName());
     if (query.exec())
         return true;
-    QFile::remove(filename);
+    target.remove();
     return fail(tr("Tiedostoa %1 ei voi kirjoittaa: %2").arg(filename, query.lastError().text().trimmed()));
 }
 
@@ -108,15 +115,16 @@ bool SQLiteDatabase::upgrade(const QString &filename)
     // One program at a time: two that run the same steps would write each other's version numbers. A lock of the
     // database itself would not outlive the copying of the file.
     QLockFile lock(filename + QLatin1String(".upgrade-lock"));
-    lock.tryLock(upgradeWaitMs);
+    if (!lock.tryLock(upgradeWaitMs) && lock.error() == QLockFile::LockFailedError)
+        return fail(tr("Toinen ohjelma päivittää tietokantaa %1").arg(filename));
     version = storedVersion();
     QSqlQuery query(connection(false));
-    bool ok = true;
     for (int from = version.value_or(schemaVersion); from < schemaVersion; ++from) {
         backup(filename);
-        ok = upgradeStep(query, from); // a failed step does not stop the later ones; the backups are there
+        if (!upgradeStep(query, from)) // the version still tells the truth
+            return false;
     }
-    return ok;
+    return true;
 }
 
 void SQLiteDatabase::backup(const QString &filename) const

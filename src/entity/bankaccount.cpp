@@ -8,6 +8,16 @@ constexpr int hyphenPosition = 6;
 
 } // namespace
 
+QString BankAccount::normalizedCode(const QString &typed)
+{
+    QString code;
+    for (const QChar c : typed) {
+        if (!c.isSpace())
+            code += c.toUpper();
+    }
+    return code;
+}
+
 QString BankAccount::ibanToBban(const QString &iban) { return iban.size() == finnishIbanLength ? iban.mid(4) : iban; }
 
 QString BankAccount::formatIban(const QString &iban)

@@ -18,6 +18,8 @@ public:
     void clear() { *this = BankAccount(); }
     void copy(BankAccount *target) const { *target = *this; }
 
+    /** An IBAN (ISO 13616) or BIC (ISO 9362) as it is stored: without blanks, in upper case. */
+    static QString normalizedCode(const QString &typed);
     /** A Finnish IBAN (18 characters) loses country code and check digits; other text comes back unchanged. */
     static QString ibanToBban(const QString &iban);
     /** Groups of four from the left: `FI21 1234 5600 0007 85`. Serves RF references (ISO 11649) too. */

@@ -9,6 +9,8 @@
 
 namespace {
 
+constexpr int lastYear = 9999; // of dates as they are stored and printed
+
 constexpr int minBaseLength = 3;
 constexpr int maxBaseLength = 19;
 constexpr int spyLength = 20;
@@ -82,7 +84,14 @@ QDate Invoice::calculateDueDate() const
     const QRegularExpressionMatch match = number.match(paymentTerms);
     bool ok = false;
     const int days = match.captured(1).toInt(&ok);
-    return ok ? date.addDays(days) : QDate();
+    const QDate due = ok ? date.addDays(days) : QDate();
+    return due.year() <= lastYear ? due : QDate();
+}
+
+bool Invoice::canBeDue() const
+{
+    static const QRegularExpression number(QStringLiteral("\\d"));
+    return !number.match(paymentTerms).hasMatch() || !date.isValid() || calculateDueDate().isValid();
 }
 
 QString Invoice::barcode(const BankAccount *account, int version) const

@@ -59,6 +59,8 @@ public:
 
     /** The invoice date plus the first number of the payment terms; invalid when they hold none. */
     QDate calculateDueDate() const;
+    /** False for payment terms whose days lead beyond the calendar. */
+    bool canBeDue() const;
 
     /**
      * The digits of the Finnish bank barcode (54 of them while the amount is below a million euros).

@@ -154,12 +154,12 @@ bool InvoiceListPrintModel::run()
     m_vat.clear();
     const std::unique_ptr<Query> query(m_registry->database()->query());
     query->setInvoiceBalanceMode(1); // a list for a date tells the balances of that date
-    if (!query->fetchInvoiceSummaries(&m_criteria))
-        return fail(query->lastError());
-    while (query->nextInvoice()) {
+    const auto take = [&] {
         m_entries.append(Entry());
         query->invoiceSummary(&m_entries.last().invoice);
-    }
+    };
+    if (!query->fetchInvoiceSummaries(&m_criteria) || !query->readAllInvoices(take))
+        return fail(query->lastError());
     if (m_criteria.descending)
         std::reverse(m_entries.begin(), m_entries.end());
     buildCriteriaStrings();
@@ -182,17 +182,17 @@ bool InvoiceListPrintModel::addRows(Query &query)
         entries.insert(entry.invoice.id, &entry);
     }
     InvoiceItem item;
-    while (query.next()) {
+    const bool isWhole = query.readAll([&] {
         query.invoiceItem(&item);
         if (Entry *entry = entries.value(item.invoiceId)) {
             const long long total = item.totalAmountVatIncluded();
             entry->vat.add(total, item.vatRate);
             m_vat.add(total, item.vatRate);
         }
-    }
+    });
     for (Entry &entry : m_entries)
         entry.totalVatAmount = entry.vat.totalVatAmount();
-    return true;
+    return isWhole;
 }
 
 void InvoiceListPrintModel::buildCriteriaStrings()

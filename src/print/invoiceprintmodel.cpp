@@ -25,26 +25,24 @@ bool InvoicePrintModel::run()
 {
     clear();
     const std::unique_ptr<Query> query(m_registry->database()->query());
-    if (!query->fetchInvoiceDetails(&m_criteria)) {
-        m_lastError = query->lastError();
-        return false;
-    }
-    while (query->nextInvoice()) {
+    const auto takeInvoice = [&] {
         Invoice invoice;
         query->invoiceDetails(&invoice);
         if (m_criteria.descending)
             m_invoices.prepend(invoice);
         else
             m_invoices.append(invoice);
-    }
-    if (!query->fetchInvoiceItems(&m_criteria)) {
-        m_lastError = query->lastError();
-        return false;
-    }
-    while (query->next()) {
+    };
+    const auto takeItem = [&] {
         InvoiceItem item;
         query->invoiceItem(&item);
         m_items[item.invoiceId].append(item);
+    };
+    if (!query->fetchInvoiceDetails(&m_criteria) || !query->readAllInvoices(takeInvoice) ||
+        !query->fetchInvoiceItems(&m_criteria) || !query->readAll(takeItem)) {
+        m_lastError = query->lastError();
+        clear();
+        return false;
     }
     setRoundingMode();
     return true;

@@ -135,13 +135,14 @@ bool PaymentPrintModel::run()
     m_entries.clear();
     m_invoiceTypes.reset();
     const std::unique_ptr<Query> query(m_registry->database()->query());
-    if (!query->fetchInvoicesAndPayments(&m_invoiceCriteria, &m_paymentCriteria)) {
-        m_lastError = query->lastError();
-        return false;
-    }
-    while (query->nextInvoice()) {
+    const auto take = [&] {
         m_entries.append(Entry());
         query->invoiceAndPayment(&m_entries.last().invoice, &m_entries.last().payment);
+    };
+    if (!query->fetchInvoicesAndPayments(&m_invoiceCriteria, &m_paymentCriteria) || !query->readAllInvoices(take)) {
+        m_lastError = query->lastError();
+        m_entries.clear();
+        return false;
     }
     m_criteriaStrings = CriteriaTexts::forPayments(m_paymentCriteria, m_invoiceCriteria, *m_registry);
     sort(m_sortOrder);

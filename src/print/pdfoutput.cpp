@@ -43,7 +43,7 @@ bool PdfOutput::open()
     if (m_place.temporaryName().isEmpty())
         return true;
     QFile file(m_place.temporaryName());
-    return file.open(QIODevice::WriteOnly) || fail(file.errorString());
+    return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) || fail(file.errorString());
 }
 
 bool PdfOutput::commit()

@@ -5,6 +5,8 @@
 #include <QElapsedTimer>
 #include <QThread>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int lockWaitMs = 30000;
@@ -87,6 +89,11 @@ void DatabaseList::remove(int number)
 bool DatabaseList::save()
 {
     if (!isWritable())
+        return false;
+    const bool hasPassword = std::any_of(m_entries.begin(), m_entries.end(), [](const QVariantMap &entry) {
+        return !entry.value(QStringLiteral("password")).toString().isEmpty();
+    });
+    if (hasPassword && !SettingsFile::makePrivate(m_settings->fileName())) // before the password is in it
         return false;
     m_settings->beginGroup(QStringLiteral("databases"));
     if (m_lastUsed < 0)

@@ -164,11 +164,10 @@ bool DatabaseSession::fetchCustomers(const QSet<int> &ids)
         if (!m_query->fetchCustomer(id))
             return failQuery();
         Customer customer;
-        const bool found = m_query->next();
-        if (found)
-            m_query->customer(&customer);
-        m_query->finish();
-        if (found)
+        const bool isWhole = m_query->readAll([&] { m_query->customer(&customer); });
+        if (!isWhole)
+            return failQuery();
+        if (customer.id >= 0)
             m_registry.storeCustomer(customer);
     }
     return true;

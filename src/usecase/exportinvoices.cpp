@@ -57,6 +57,36 @@ bool loadInvoiceScript(UseCaseContext &context, const std::optional<QString> &na
 }
 
 /**
+ * A file name that nobody has: the empty file of the name is made at once, so that two exports to one name do not
+ * overwrite each other. Empty files go again.
+ */
+class ReservedName {
+public:
+    ReservedName(const QString &form, const Invoice &invoice, const Customer *customer, int kind)
+    {
+        do {
+            m_name = ExportFileName::make(form, invoice, customer, kind);
+            QFile file(m_name);
+            m_isMade = file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+        } while (!m_isMade && QFile::exists(m_name) && --m_triesLeft > 0);
+    }
+    ~ReservedName()
+    {
+        if (m_isMade && QFileInfo(m_name).size() == 0)
+            QFile::remove(m_name);
+    }
+    ReservedName(const ReservedName &) = delete;
+    ReservedName &operator=(const ReservedName &) = delete;
+
+    const QString &name() const { return m_name; }
+
+private:
+    QString m_name;
+    bool m_isMade = false;
+    int m_triesLeft = 1000;
+};
+
+/**
  * Writes each invoice into a file of its own. The answer is given afterwards: a file that cannot be written fails the
  * command, and there is no saying so once an answer has begun.
  * @param write  writes the model's one invoice to a file through the host
@@ -69,13 +99,17 @@ bool writeInvoices(UseCaseContext &context, const Request &request, const QStrin
     single.setPrintType(request.printType);
     for (int i = 0; i < all.invoiceCount(); ++i) {
         const Invoice &invoice = *all.invoice(i);
-        const QString name = ExportFileName::make(form, invoice, all.customer(invoice), request.printType);
-        if (request.isTrial) {
-            files.append({name, invoice.id, invoice.number, {}});
-            continue;
-        }
-        if (request.makesFolders)
+        const Customer *customer = all.customer(invoice);
+        if (request.isTrial || request.makesFolders) {
+            const QString name = ExportFileName::make(form, invoice, customer, request.printType);
+            if (request.isTrial) {
+                files.append({name, invoice.id, invoice.number, {}});
+                continue;
+            }
             QDir().mkpath(QFileInfo(name).path());
+        }
+        const ReservedName reserved(form, invoice, customer, request.printType);
+        const QString &name = reserved.name();
         single.clear();
         single.copyInvoice(&all, i);
         write(name, single);

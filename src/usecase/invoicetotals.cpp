@@ -31,25 +31,21 @@ InvoiceTotals::Outcome InvoiceTotals::updateInvoice(UseCaseContext &context, int
     Query *query = context.session.query();
 
     long long amount = 0;
-    if (!query->fetchInvoiceItems(invoiceId))
-        return failQuery(context);
     InvoiceItem item;
-    while (query->next()) {
+    const auto addItem = [&] {
         query->invoiceItem(&item);
         amount += item.totalAmountVatIncluded();
-    }
-    if (query->hasReadError())
+    };
+    if (!query->fetchInvoiceItems(invoiceId) || !query->readAll(addItem))
         return failQuery(context);
 
     long long balance = amount;
-    if (!query->fetchPayments(invoiceId))
-        return failQuery(context);
     Payment payment;
-    while (query->next()) {
+    const auto addPayment = [&] {
         query->payment(&payment);
         balance -= payment.amount;
-    }
-    if (query->hasReadError())
+    };
+    if (!query->fetchPayments(invoiceId) || !query->readAll(addPayment))
         return failQuery(context);
 
     if (!fitsIntoCents(amount) || !fitsIntoCents(balance)) {

@@ -41,14 +41,14 @@ bool PaymentMatcher::readReferences(const QVector<ImportedPayment> &payments)
         return true;
     if (!query->fetchInvoiceReferences())
         return m_session.failQuery();
-    while (query->next()) {
+    const bool isWhole = query->readAll([&] {
         Invoice invoice;
         query->invoiceReference(&invoice);
         const auto it = m_invoicesByReference.find(comparableReference(invoice.referenceNumber));
         if (it != m_invoicesByReference.end())
             it->append(invoice.id);
-    }
-    return true;
+    });
+    return isWhole || m_session.failQuery();
 }
 
 bool PaymentMatcher::candidates(const QString &reference, QVector<InvoiceLedger *> &found)
@@ -58,18 +58,15 @@ bool PaymentMatcher::candidates(const QString &reference, QVector<InvoiceLedger 
     for (const int id : ids) {
         auto it = m_ledgers.find(id);
         if (it == m_ledgers.end()) {
-            if (!query->fetchInvoiceDetails(id))
-                return m_session.failQuery();
             Invoice invoice;
-            if (query->next())
-                query->invoiceDetails(&invoice);
-            if (!query->fetchPayments(id))
-                return m_session.failQuery();
             QVector<Payment> payments;
-            while (query->next()) {
+            const auto takePayment = [&] {
                 payments.append(Payment());
                 query->payment(&payments.last());
-            }
+            };
+            if (!query->fetchInvoiceDetails(id) || !query->readAll([&] { query->invoiceDetails(&invoice); }) ||
+                !query->fetchPayments(id) || !query->readAll(takePayment))
+                return m_session.failQuery();
             it = m_ledgers.emplace(id, InvoiceLedger(invoice, payments)).first;
         }
         found.append(&it->second);
@@ -142,12 +139,9 @@ bool PaymentMatcher::save()
         }
         if (!added.isEmpty())
             m_changedInvoices.append(id);
-        if (!query->fetchInvoiceDetails(id))
-            return m_session.failQuery();
         Invoice invoice;
-        if (query->next())
-            query->invoiceDetails(&invoice);
-        query->finish();
+        if (!query->fetchInvoiceDetails(id) || !query->readAll([&] { query->invoiceDetails(&invoice); }))
+            return m_session.failQuery();
         const QString archiveIds = ledger.archiveIds();
         if (invoice.property(InvoiceLedger::archiveIdsKey()).toString() == archiveIds)
             continue;

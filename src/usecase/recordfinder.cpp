@@ -66,6 +66,9 @@ bool RecordFinder::readOne(bool fetched, Read read, Record *record, Failure::Cod
         *record = Record();
         (query->*read)(record);
     }
+    const bool hasFailed = !found && query->hasReadError();
+    if (hasFailed)
+        return m_session.failQuery();
     query->finish();
     return found || m_listener.fail(unknown, {QString::number(searched)});
 }

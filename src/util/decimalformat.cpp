@@ -25,7 +25,7 @@ void DecimalFormat::setLocale(const QLocale &locale)
     m_decimalPoint = locale.decimalPoint();
 }
 
-QString DecimalFormat::fraction(long long magnitude) const
+QString DecimalFormat::fraction(unsigned long long magnitude) const
 {
     long long rest = magnitude % m_divisor;
     int size = std::max(m_fractionDigits, 1); // without fraction digits it is "0", which is cut like others
@@ -37,9 +37,19 @@ QString DecimalFormat::fraction(long long magnitude) const
     return digits;
 }
 
+namespace {
+
+/** Also of the lowest number, whose opposite does not fit. */
+unsigned long long magnitudeOf(long long value)
+{
+    return value < 0 ? 0ULL - static_cast<unsigned long long>(value) : static_cast<unsigned long long>(value);
+}
+
+} // namespace
+
 QString DecimalFormat::format(long long value) const
 {
-    const long long magnitude = std::llabs(value);
+    const unsigned long long magnitude = magnitudeOf(value);
     QString text = m_locale.toString(magnitude / m_divisor);
     if (value < 0)
         text.prepend(QChar(0x2212));
@@ -49,12 +59,12 @@ QString DecimalFormat::format(long long value) const
 
 QString DecimalFormat::formatWithoutGrouping(long long value) const
 {
-    const long long magnitude = std::llabs(value);
+    const unsigned long long magnitude = magnitudeOf(value);
     QString text;
     text.reserve(32); // enough for any value: large searches format several a record
     if (value < 0)
         text += QLatin1Char('-');
-    Integer::appendTo(text, magnitude / m_divisor);
+    text += QString::number(magnitude / m_divisor);
     const QString decimals = fraction(magnitude);
     if (!decimals.isEmpty()) {
         text += m_decimalPoint;

@@ -41,7 +41,7 @@ public:
     long long parse(const QString &text, bool &ok) const;
 
 private:
-    QString fraction(long long magnitude) const;
+    QString fraction(unsigned long long magnitude) const;
 
     QLocale m_locale;
     QString m_decimalPoint;

@@ -1,6 +1,6 @@
 #include "inputline.h"
 
-#include <QTextCodec>
+#include "localetext.h"
 
 #include <cerrno>
 #include <poll.h>
@@ -50,7 +50,10 @@ bool InputLine::read(QString &line)
             int length = end - m_position;
             if (length > 0 && m_buffer.at(m_position + length - 1) == '\r')
                 --length;
-            line = QTextCodec::codecForLocale()->toUnicode(m_buffer.constData() + m_position, length);
+            line = LocaleText::decode(m_buffer.constData() + m_position, length);
+            if (m_isFirst && line.startsWith(QChar(QChar::ByteOrderMark)))
+                line.remove(0, 1); // of a file that an editor saved with its mark
+            m_isFirst = false;
             m_position = end + 1;
             return true;
         }

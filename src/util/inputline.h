@@ -5,8 +5,6 @@
 #include <QString>
 #include <QStringList>
 
-class QTextCodec;
-
 /**
  * Reads lines from a file descriptor as they arrive. A line that is there is returned at once, also from a pipe that
  * stays open; the buffered readers of the library wait for a full block.
@@ -34,6 +32,7 @@ private:
     QByteArray m_buffer;
     int m_position = 0; ///< start of what was not returned yet
     bool m_atEnd = false;
+    bool m_isFirst = true;
 };
 
 #endif

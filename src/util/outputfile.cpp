@@ -15,7 +15,8 @@ bool OutputFile::open()
 {
     if (!m_place.mayBeReplaced())
         return fail(m_place.errorString());
-    return m_file.open(QIODevice::WriteOnly) || fail(m_file.errorString());
+    const QIODevice::OpenMode isNew = m_place.temporaryName().isEmpty() ? QIODevice::NotOpen : QIODevice::NewOnly;
+    return m_file.open(QIODevice::WriteOnly | isNew) || fail(m_file.errorString());
 }
 
 bool OutputFile::commit()

@@ -1,8 +1,8 @@
 #include "replacedfile.h"
 
-#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
+#include <QRandomGenerator>
 
 #include <cerrno>
 #include <cstdio>
@@ -14,8 +14,10 @@ ReplacedFile::ReplacedFile(const QString &fileName) : m_fileName(fileName)
         return;
     m_target = file.exists() ? file.canonicalFilePath() : fileName;
     // A name of its own length: the file's may be as long as the file system takes.
-    m_temporary = QStringLiteral("%1/.billora-%2.tmp")
-                      .arg(QFileInfo(m_target).absolutePath(), QString::number(QCoreApplication::applicationPid()));
+    // Nobody can guess it and put a link there.
+    m_temporary =
+        QStringLiteral("%1/.billora-%2.tmp")
+            .arg(QFileInfo(m_target).absolutePath(), QString::number(QRandomGenerator::system()->generate64(), 36));
 }
 
 ReplacedFile::~ReplacedFile()

@@ -1,12 +1,17 @@
 #include "programstart.h"
 
+#include "localetext.h"
+
 #include <QCoreApplication>
 #include <QTextCodec>
 
+#include <cerrno>
 #include <clocale>
 #include <cstdio>
 #include <cstring>
+#include <fcntl.h>
 #include <langinfo.h>
+#include <unistd.h>
 
 namespace {
 
@@ -18,10 +23,20 @@ void handleMessage(QtMsgType type, const QMessageLogContext &context, const QStr
         std::fprintf(stderr, "%s\n", message.toLocal8Bit().constData());
 }
 
+/** A closed descriptor would be the next file's, and what the program says would go into it. */
+void openClosedDescriptors()
+{
+    for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (::fcntl(descriptor, F_GETFD) == -1 && errno == EBADF)
+            ::open("/dev/null", descriptor == STDIN_FILENO ? O_RDONLY : O_WRONLY); // takes the lowest one: this
+    }
+}
+
 } // namespace
 
 void ProgramStart::prepare()
 {
+    openClosedDescriptors();
     qInstallMessageHandler(handleMessage);
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -34,7 +49,7 @@ QStringList ProgramStart::arguments(int argc, char *argv[])
 {
     QStringList words;
     for (int i = 1; i < argc; ++i)
-        words.append(QString::fromLocal8Bit(argv[i]));
+        words.append(LocaleText::decode(argv[i], static_cast<int>(std::strlen(argv[i]))));
     return words;
 }
 
