@@ -63,12 +63,20 @@ constexpr FailureRow failures[] = {
     {Failure::fileUnwritable, Problem::file, nullptr, nullptr, TEXT("tiedostoa %1 ei voi kirjoittaa: %2")},
     {Failure::fileExists, Problem::exists, nullptr, nullptr, TEXT("tiedosto on jo olemassa: %1")},
     {Failure::invoiceTotalTooLarge, Problem::rule, nullptr, nullptr, TEXT("laskun loppusumma on liian suuri")},
+    {Failure::rowTotalTooLarge, Problem::rule, "quantity", nullptr, TEXT("rivin summa on liian suuri")},
+    {Failure::invoiceCustomerMissing, Problem::missingOption, "customer", nullptr, TEXT("asiakas puuttuu")},
+    {Failure::noNextInvoiceNumber, Problem::rule, "number", nullptr, TEXT("seuraavaa laskunumeroa ei ole")},
+    {Failure::noNextCustomerNumber, Problem::rule, "number", nullptr, TEXT("seuraavaa asiakasnumeroa ei ole")},
+    {Failure::paymentTermsBeyondCalendar, Problem::badValue, "paymentTerms", nullptr,
+     TEXT("maksuehto vie kalenterin yli: \"%1\"")},
 };
 
 constexpr NoticeRow notices[] = {
     {Notice::openingSqlite, TEXT("avataan SQLite-tietokanta %1")},
     {Notice::openingPostgresql, TEXT("avataan PostgreSQL-tietokanta %1")},
     {Notice::savingInvoice, TEXT("tallennetaan lasku %1")},
+    {Notice::savingRow, TEXT("tallennetaan laskun id:%1 rivi %2")},
+    {Notice::savingPayment, TEXT("tallennetaan suoritus")},
 };
 
 QString filled(const char *finnish, const QStringList &arguments)

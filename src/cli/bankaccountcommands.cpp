@@ -2,6 +2,7 @@
 
 #include "bankaccount.h"
 #include "listcommands.h"
+#include "recordediting.h"
 #include "recordprinter.h"
 
 #include <optional>
@@ -22,8 +23,6 @@ struct BankAccountKind {
     };
 
     static constexpr CachedList list = CachedList::bankAccounts;
-    static constexpr auto lastSaved = &LastSavedIds::bankAccount;
-    static constexpr auto save = &Query::saveBankAccount;
     static constexpr auto store = &Registry::storeBankAccount;
     static constexpr auto print = &RecordPrinter::printBankAccount;
 
@@ -99,10 +98,9 @@ struct BankAccountKind {
 
     static bool complete(CommandContext &, BankAccount &) { return true; }
 
-    static bool removeRecord(DatabaseSession &session, BankAccount &account)
+    static bool removeRecord(CommandContext &context, BankAccount &account)
     {
-        account.deleted = true; // old payments go on referring to it
-        return session.query()->saveBankAccount(&account);
+        return RecordEditing::remove(context, account);
     }
 
     static void forget(Registry &registry, const BankAccount &removed) { registry.storeBankAccount(removed); }

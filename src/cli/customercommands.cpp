@@ -2,6 +2,7 @@
 
 #include "customer.h"
 #include "listcommands.h"
+#include "recordediting.h"
 #include "recordprinter.h"
 
 #include <algorithm>
@@ -25,8 +26,6 @@ struct CustomerKind {
     };
 
     static constexpr CachedList list = CachedList::customers;
-    static constexpr auto lastSaved = &LastSavedIds::customer;
-    static constexpr auto save = &Query::saveCustomer;
     static constexpr auto store = &Registry::storeCustomer;
     static constexpr auto print = &RecordPrinter::printCustomer;
 
@@ -123,24 +122,14 @@ struct CustomerKind {
         return CommandContext::tr("Tallennetaan asiakkaan %1 tiedot").arg(customer.name);
     }
 
-    /** A customer without a number gets the next one. Asked of the database: no need to read all customers for it. */
     static bool complete(CommandContext &context, Customer &customer)
     {
-        if (customer.number >= 0)
-            return true;
-        const int highest = context.session.query()->maxCustomerNumber();
-        if (!context.session.query()->lastError().isEmpty())
-            return context.session.failQuery();
-        if (highest == std::numeric_limits<int>::max())
-            return context.status.fail(ExitCode::badData, CommandContext::tr("Seuraavaa asiakasnumeroa ei ole"));
-        customer.number = std::max(highest, 0) + 1;
-        return true;
+        return RecordEditing::giveNumber(context, customer);
     }
 
-    static bool removeRecord(DatabaseSession &session, Customer &customer)
+    static bool removeRecord(CommandContext &context, Customer &customer)
     {
-        customer.deleted = true; // old invoices go on referring to it
-        return session.query()->saveCustomer(&customer);
+        return RecordEditing::remove(context, customer);
     }
 
     static void forget(Registry &registry, const Customer &removed) { registry.storeCustomer(removed); }

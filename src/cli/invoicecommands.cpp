@@ -1,132 +1,94 @@
 #include "invoicecommands.h"
 
 #include "constants.h"
-#include "customer.h"
-#include "invoice.h"
 #include "invoicecriteria.h"
+#include "invoiceeditor.h"
 #include "invoiceitem.h"
 #include "parametertable.h"
 #include "payment.h"
 #include "paymentcriteria.h"
 #include "query.h"
 #include "readtransaction.h"
+#include "recordediting.h"
 #include "recordprinter.h"
 #include "searchcommand.h"
-#include "settings.h"
-#include "templatestringhelper.h"
 #include "writetransaction.h"
 
 #include <QHash>
 #include <QVector>
 
-#include <limits>
 
 namespace {
 
 struct State {
-    Invoice record;
-    Customer customer;  ///< the invoice's, empty while not known
-    bool found = false; ///< an existing invoice was looked up
+    explicit State(UseCaseContext &context) : editor(context), record(editor.invoice()) {}
+
+    InvoiceEditor editor;
+    Invoice &record; ///< the editor's
 };
 
-/** Fills the reference number and the notice texts of the invoice as the settings have them. */
-void updateReferenceNumber(CommandContext &context, Invoice *invoice, const Customer *customer)
+bool useCustomer(State &state, const Customer &customer)
 {
-    Registry &registry = context.session.registry();
-    const TemplateStringHelper helper(&registry);
-    const Settings *settings = registry.settings();
-    invoice->referenceNumber = customer->referenceNumber;
-    if (invoice->referenceNumber.isEmpty()) {
-        const QString base = helper.substituteVariables(settings->referenceNumberTemplate(), invoice, customer);
-        invoice->referenceNumber = Invoice::appendCheckDigitToReferenceNumber(base);
-    }
-    const struct {
-        const char *setting, *property;
-    } notices[] = {{"invoiceForm/noticeText1", "t1"}, {"invoiceForm/noticeText2", "t2"}};
-    for (const auto &notice : notices) {
-        const QString form = settings->property(QLatin1String(notice.setting)).toString();
-        invoice->setPropertyIfNotEmpty(QLatin1String(notice.property),
-                                       helper.substituteVariables(form, invoice, customer));
-    }
-}
-
-bool useCustomer(CommandContext &context, State &state)
-{
-    state.record.customerId = state.customer.id;
-    updateReferenceNumber(context, &state.record, &state.customer);
+    state.editor.useCustomer(customer);
     return true;
 }
 
 bool customerById(CommandContext &context, const QString &key, const QString &value, State &state)
 {
     int id = 0;
+    Customer customer;
     return context.values.parseIdValue(key, value, context.lastSaved.customer, id) &&
-           context.finder.findCustomerById(id, &state.customer) && useCustomer(context, state);
+           context.finder.findCustomerById(id, &customer) && useCustomer(state, customer);
 }
 
 bool customerByNumber(CommandContext &context, const QString &key, const QString &value, State &state)
 {
     int number = 0;
+    Customer customer;
     return context.values.parseIntValue(key, value, number) &&
-           context.finder.findCustomerByNumber(number, &state.customer) && useCustomer(context, state);
+           context.finder.findCustomerByNumber(number, &customer) && useCustomer(state, customer);
 }
 
 bool customerByName(CommandContext &context, const QString &, const QString &value, State &state)
 {
-    return context.finder.findCustomerByName(value, &state.customer) && useCustomer(context, state);
-}
-
-/** The customer of a looked-up invoice, for the reference number that a new number gives it. */
-bool loadCustomer(CommandContext &context, State &state)
-{
-    state.found = true;
-    if (!context.session.fetchCustomers({state.record.customerId}))
-        return false;
-    bool known = false;
-    const Customer *customer = context.session.registry().customerById(state.record.customerId, known);
-    state.customer = known ? *customer : Customer();
-    return true;
+    Customer customer;
+    return context.finder.findCustomerByName(value, &customer) && useCustomer(state, customer);
 }
 
 bool findById(CommandContext &context, const QString &key, const QString &value, State &state)
 {
     int id = 0;
-    return context.values.parseIntValue(key, value, id) && context.finder.findInvoiceById(id, &state.record) &&
-           loadCustomer(context, state);
+    Invoice invoice;
+    return context.values.parseIntValue(key, value, id) && context.finder.findInvoiceById(id, &invoice) &&
+           state.editor.edit(invoice);
 }
 
 bool findByNumber(CommandContext &context, const QString &key, const QString &value, State &state)
 {
     int number = 0;
-    return context.values.parseIntValue(key, value, number) &&
-           context.finder.findInvoiceByNumber(number, &state.record) && loadCustomer(context, state);
+    Invoice invoice;
+    return context.values.parseIntValue(key, value, number) && context.finder.findInvoiceByNumber(number, &invoice) &&
+           state.editor.edit(invoice);
 }
 
 bool number(CommandContext &context, const QString &key, const QString &value, State &state)
 {
-    if (!context.values.parseIntValue(key, value, state.record.number))
+    int number = 0;
+    if (!context.values.parseIntValue(key, value, number))
         return false;
-    updateReferenceNumber(context, &state.record, &state.customer);
+    state.editor.setNumber(number);
     return true;
 }
 
-bool checkTerms(CommandContext &context, const Invoice &invoice)
+bool paymentTerms(CommandContext &, const QString &, const QString &value, State &state)
 {
-    return invoice.canBeDue() || context.values.failNumber(QStringLiteral("paymentTerms"), invoice.paymentTerms);
-}
-
-bool paymentTerms(CommandContext &context, const QString &, const QString &value, State &state)
-{
-    state.record.paymentTerms = value;
-    return checkTerms(context, state.record);
+    return state.editor.setPaymentTerms(value);
 }
 
 bool date(CommandContext &context, const QString &key, const QString &value, State &state)
 {
-    if (!context.values.parseDateValue(key, value, state.record.date))
-        return false;
-    state.record.dueDate = state.record.calculateDueDate(); // with the payment terms known so far
-    return checkTerms(context, state.record);
+    QDate date;
+    return context.values.parseDateValue(key, value, date) && state.editor.setDate(date);
 }
 
 constexpr Parameter<State> parameters[] = {
@@ -148,56 +110,20 @@ constexpr Parameter<State> parameters[] = {
     {"findByNumber", findByNumber, true},
 };
 
-/** What a new invoice needs and was not given. */
-bool completeNewInvoice(CommandContext &context, State &state)
-{
-    Invoice &invoice = state.record;
-    if (!invoice.dueDate.isValid())
-        invoice.dueDate = invoice.calculateDueDate();
-    if (invoice.customerId < 0)
-        return context.status.fail(ExitCode::badData,
-                                   CommandContext::tr("Jokin parametreista findCustomerById, findCustomerByNumber tai "
-                                                      "findCustomerByName on pakollinen"));
-    if (invoice.number == 0) {
-        const int highest = context.session.query()->maxInvoiceNumber();
-        if (!context.session.query()->lastError().isEmpty())
-            return context.session.failQuery();
-        if (highest == std::numeric_limits<int>::max())
-            return context.status.fail(ExitCode::badData, CommandContext::tr("Seuraavaa laskunumeroa ei ole"));
-        invoice.number = highest + 1;
-        updateReferenceNumber(context, &invoice, &state.customer);
-    }
-    return true;
-}
-
-void applyDefaults(CommandContext &context, Invoice &invoice)
-{
-    const Settings *settings = context.session.registry().settings();
-    invoice.date = QDate::currentDate();
-    invoice.paymentTerms = settings->property(QStringLiteral("settings/paymentTerms")).toString();
-    invoice.interestOnArrears = settings->property(QStringLiteral("settings/interestOnArrears")).toInt();
-}
-
 bool saveInvoice(CommandContext &context, const ParameterList &words, SaveCommandMode mode, Invoice &saved)
 {
     WriteTransaction transaction(context.session);
     if (!transaction.hasBegun())
         return false;
-    if (!context.session.fetch(CachedList::bankAccounts) || !context.session.fetch(CachedList::settings))
+    State state(context);
+    if (!state.editor.begin() || !applyParameters(context, words, parameters, mode, state))
         return false;
-    State state;
-    applyDefaults(context, state.record);
-    if (!applyParameters(context, words, parameters, mode, state))
-        return false;
-    if (mode == SaveCommandMode::edit && !state.found)
+    if (mode == SaveCommandMode::edit && !state.editor.isStored())
         return context.status.fail(
             ExitCode::badData,
             CommandContext::tr("Toinen parametreista findByInvoiceId tai findByNumber on pakollinen"));
-    if (mode == SaveCommandMode::add && !completeNewInvoice(context, state))
+    if (!state.editor.save())
         return false;
-    context.diagnostics.printDebugMessage(CommandContext::tr("Tallennetaan laskun %1 tiedot").arg(state.record.number));
-    if (!context.session.query()->saveInvoice(&state.record))
-        return context.session.failQuery();
     saved = state.record;
     return transaction.commit();
 }
@@ -294,10 +220,7 @@ struct InvoiceSearch {
         return true;
     }
 
-    static bool remove(Query &query, int id)
-    {
-        return query.deleteInvoiceItems(id) && query.deletePayments(id) && query.deleteInvoice(id);
-    }
+    static bool remove(CommandContext &context, int id) { return RecordEditing::removeInvoice(context, id); }
 };
 
 } // namespace

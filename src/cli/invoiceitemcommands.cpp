@@ -4,15 +4,13 @@
 #include "invoice.h"
 #include "invoiceitem.h"
 #include "invoicelookup.h"
-#include "invoicetotals.h"
 #include "parametertable.h"
 #include "product.h"
 #include "query.h"
+#include "recordediting.h"
 #include "recordprinter.h"
 #include "writetransaction.h"
 
-#include <cstdlib>
-#include <limits>
 
 namespace {
 
@@ -98,26 +96,10 @@ bool saveInvoiceItem(CommandContext &context, const ParameterList &words, SaveCo
     if (!transaction.hasBegun() || !applyParameters(context, words, parameters, mode, state) ||
         !checkRequired(context, mode, state))
         return false;
-    InvoiceItem &item = state.record;
-    const long long total = item.totalAmountVatIncluded();
-    if (total > std::numeric_limits<int>::max() || total < -std::numeric_limits<int>::max())
-        return context.status.fail(ExitCode::badData, CommandContext::tr("Laskurivin summa on liian suuri"));
-    Query *query = context.session.query();
-    if (mode == SaveCommandMode::add) {
-        item.rowNumber = query->nextRowNumber(item.invoiceId);
-        if (item.rowNumber < 0)
-            return context.session.failQuery();
-    }
-    context.diagnostics.printDebugMessage(CommandContext::tr("Tallennetaan laskurivin %1 %2 tiedot")
-                                              .arg(QString::number(item.invoiceId), item.productName));
-    if (!query->saveInvoiceItem(&item))
-        return context.session.failQuery();
     // The row stays saved when the totals cannot be brought up to date, as when its invoice is gone.
-    const InvoiceTotals::Outcome outcome =
-        InvoiceTotals::updateInvoices(context, item.invoiceId, state.earlierInvoiceId);
+    const InvoiceTotals::Outcome outcome = RecordEditing::saveRow(context, state.record, state.earlierInvoiceId);
     if (outcome == InvoiceTotals::Outcome::tooLarge)
         return false;
-    context.lastSaved.invoiceItem = item.id;
     return transaction.commit() && outcome == InvoiceTotals::Outcome::updated;
 }
 

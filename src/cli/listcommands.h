@@ -4,6 +4,7 @@
 #include "commandcontext.h"
 #include "parametertable.h"
 #include "query.h"
+#include "recordediting.h"
 #include "writetransaction.h"
 
 #include <QVector>
@@ -13,12 +14,12 @@
  * differs is told by a Kind:
  *
  *     using Record, State (with members `record` and `found`), Search
- *     list, lastSaved, save, store       the cached list, the id behind "@", Query's and Registry's operations
+ *     list, store                        the cached list, and Registry's operation
  *     parameters, searchKeys             the tables of keys
  *     records(registry), matches(record, search), print(response, record)
  *     lookupMissing(), requiredMissing(record), savingMessage(record)
  *     complete(context, record)          fills what was not given
- *     removeRecord(session, record)      marks it removed or deletes it
+ *     removeRecord(context, record)      marks it removed or deletes it
  *     forget(registry, record)           takes it out of the cached list
  */
 
@@ -46,15 +47,10 @@ template <class Kind> void saveListRecord(CommandContext &context, QStringList &
     if (!Kind::complete(context, record))
         return;
     context.diagnostics.printDebugMessage(Kind::savingMessage(record));
-    if (!(context.session.query()->*Kind::save)(&record)) {
-        context.session.failQuery();
-        return;
-    }
-    if (!transaction.commit())
+    if (!RecordEditing::save(context, record) || !transaction.commit())
         return;
     (context.session.registry().*Kind::store)(record);
     context.session.invalidate(Kind::list);
-    context.lastSaved.*Kind::lastSaved = record.id;
     context.response.startResponse(QStringLiteral("OK"));
     Kind::print(context.response, record);
     context.response.endResponse();
@@ -74,8 +70,8 @@ template <class Kind> bool removeListRecords(CommandContext &context, const type
             matching.append(*record);
     }
     for (auto &record : matching) {
-        if (!Kind::removeRecord(context.session, record))
-            return context.session.failQuery();
+        if (!Kind::removeRecord(context, record))
+            return false;
     }
     if (!transaction.commit())
         return false;

@@ -5,11 +5,11 @@
 #include "invoice.h"
 #include "invoicecriteria.h"
 #include "invoicelookup.h"
-#include "invoicetotals.h"
 #include "parametertable.h"
 #include "payment.h"
 #include "paymentcriteria.h"
 #include "query.h"
+#include "recordediting.h"
 #include "recordprinter.h"
 #include "searchcommand.h"
 #include "writetransaction.h"
@@ -72,12 +72,9 @@ bool savePayment(CommandContext &context, const ParameterList &words, SaveComman
         return context.status.fail(ExitCode::badData, CommandContext::tr("Parametri findByPaymentId on pakollinen"));
     if (mode == SaveCommandMode::add && !state.hasInvoice)
         return context.status.fail(ExitCode::badData, CommandContext::tr("Parametri findInvoiceById on pakollinen"));
-    context.diagnostics.printDebugMessage(CommandContext::tr("Tallennetaan maksusuorituksen tiedot"));
-    if (!context.session.query()->savePayment(&state.record))
-        return context.session.failQuery();
     // The payment stays saved when the totals cannot be brought up to date, as when its invoice is gone.
-    const int invoiceId = state.record.invoiceId;
-    const InvoiceTotals::Outcome outcome = InvoiceTotals::updateInvoices(context, invoiceId, state.earlierInvoiceId);
+    const InvoiceTotals::Outcome outcome =
+        RecordEditing::savePayment(context, state.record, state.earlierInvoiceId);
     if (outcome == InvoiceTotals::Outcome::tooLarge)
         return false;
     return transaction.commit() && outcome == InvoiceTotals::Outcome::updated;
@@ -145,7 +142,10 @@ struct PaymentSearch {
         return true;
     }
 
-    static bool remove(Query &query, int id) { return query.deletePayment(id); }
+    static bool remove(CommandContext &context, int id)
+    {
+        return context.session.query()->deletePayment(id) || context.session.failQuery();
+    }
 };
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "constants.h"
 #include "listcommands.h"
 #include "product.h"
+#include "recordediting.h"
 #include "recordprinter.h"
 
 #include <limits>
@@ -24,8 +25,6 @@ struct ProductKind {
     };
 
     static constexpr CachedList list = CachedList::products;
-    static constexpr auto lastSaved = &LastSavedIds::product;
-    static constexpr auto save = &Query::saveProduct;
     static constexpr auto store = &Registry::storeProduct;
     static constexpr auto print = &RecordPrinter::printProduct;
 
@@ -119,9 +118,9 @@ struct ProductKind {
 
     static bool complete(CommandContext &, Product &) { return true; }
 
-    static bool removeRecord(DatabaseSession &session, const Product &product)
+    static bool removeRecord(CommandContext &context, const Product &product)
     {
-        return session.query()->deleteProduct(product.id);
+        return RecordEditing::remove(context, product);
     }
 
     static void forget(Registry &registry, const Product &removed) { registry.forgetProduct(removed.id); }

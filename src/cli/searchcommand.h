@@ -17,7 +17,7 @@
  *     find(context, search)              answers with the records
  *     restricts(query, search)           whether the search sets any condition
  *     readIds(query, search, ids)        the ids of what is found
- *     remove(query, id)
+ *     remove(context, id)               with the failure told
  */
 
 /** @return the number of records removed, -1 on failure */
@@ -28,12 +28,13 @@ template <class Kind> int removeFound(CommandContext &context, const typename Ki
         return -1;
     Query *query = context.session.query();
     QVector<int> ids;
-    bool ok = Kind::readIds(*query, search, ids) && !query->hasReadError();
-    for (const int id : qAsConst(ids))
-        ok = ok && Kind::remove(*query, id);
-    if (!ok) {
+    if (!Kind::readIds(*query, search, ids) || query->hasReadError()) {
         context.session.failQuery();
         return -1;
+    }
+    for (const int id : qAsConst(ids)) {
+        if (!Kind::remove(context, id))
+            return -1;
     }
     return transaction.commit() ? ids.size() : -1;
 }

@@ -50,12 +50,20 @@ constexpr FailureSentence failures[] = {
     {Failure::fileUnwritable, ExitCode::databaseFailure, TEXT("Tiedostoa %1 ei voi kirjoittaa: %2")},
     {Failure::fileExists, badData, TEXT("Tiedosto on jo olemassa: %1")},
     {Failure::invoiceTotalTooLarge, badData, TEXT("Laskun loppusumma on liian suuri")},
+    {Failure::rowTotalTooLarge, badData, TEXT("Laskurivin summa on liian suuri")},
+    {Failure::invoiceCustomerMissing, badData,
+     TEXT("Jokin parametreista findCustomerById, findCustomerByNumber tai findCustomerByName on pakollinen")},
+    {Failure::noNextInvoiceNumber, badData, TEXT("Seuraavaa laskunumeroa ei ole")},
+    {Failure::noNextCustomerNumber, badData, TEXT("Seuraavaa asiakasnumeroa ei ole")},
+    {Failure::paymentTermsBeyondCalendar, badData, TEXT("Virheellinen luku: paymentTerms=%1")},
 };
 
 constexpr NoticeSentence notices[] = {
     {Notice::openingSqlite, TEXT("Avataan SQLite-tietokanta %1")},
     {Notice::openingPostgresql, TEXT("Avataan PostgreSQL-tietokanta %1")},
     {Notice::savingInvoice, TEXT("Tallennetaan laskun %1 tiedot")},
+    {Notice::savingRow, TEXT("Tallennetaan laskurivin %1 %2 tiedot")},
+    {Notice::savingPayment, TEXT("Tallennetaan maksusuorituksen tiedot")},
 };
 
 template <class Row, std::size_t n, class Code> const Row &rowOf(const Row (&table)[n], Code code)

@@ -66,6 +66,12 @@ public:
     void setTrial(bool isTrial) { m_isTrial = isTrial; }
     bool isTrial() const { return m_isTrial; }
 
+    /**
+     * An outer transaction: those of single commands begin and end within it, until it is ended by end() of its owner.
+     */
+    void setEnclosed(bool isEnclosed) { m_isEnclosed = isEnclosed; }
+    bool isEnclosed() const { return m_isEnclosed; }
+
     /** Tells the query's error. @return false */
     bool failQuery();
     /** Tells the database's error. @return false */
@@ -90,6 +96,7 @@ private:
     int m_number = -1;        ///< what the open database was asked for by
     bool m_isSuspect = false; ///< a statement failed: the connection may be gone
     bool m_isTrial = false;
+    bool m_isEnclosed = false;
     std::optional<int> m_lostNumber; ///< as m_number, of a database whose connection is gone
 };
 

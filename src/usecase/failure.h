@@ -41,6 +41,11 @@ enum Code {
 
     // Rules
     invoiceTotalTooLarge, ///< total or balance beyond 32 bits of cents
+    rowTotalTooLarge,     ///< the same of a row
+    invoiceCustomerMissing,
+    noNextInvoiceNumber, ///< the highest number is taken
+    noNextCustomerNumber,
+    paymentTermsBeyondCalendar, ///< the terms
 };
 
 } // namespace Failure

@@ -8,6 +8,8 @@ enum Code {
     openingSqlite,     ///< file name
     openingPostgresql, ///< database name
     savingInvoice,     ///< number
+    savingRow,         ///< invoice id, name of the product
+    savingPayment,
 };
 
 } // namespace Notice

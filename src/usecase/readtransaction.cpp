@@ -5,7 +5,7 @@
 #include "query.h"
 
 ReadTransaction::ReadTransaction(DatabaseSession &session)
-    : m_session(session), m_open(session.database()->beginReading())
+    : m_session(session), m_isInner(session.isEnclosed()), m_open(m_isInner || session.database()->beginReading())
 {
     if (!m_open)
         m_session.failDatabase();
@@ -13,7 +13,7 @@ ReadTransaction::ReadTransaction(DatabaseSession &session)
 
 ReadTransaction::~ReadTransaction()
 {
-    if (m_open) {
+    if (m_open && !m_isInner) {
         m_session.query()->finish();
         m_session.database()->rollback(); // nothing was written
     }

@@ -16,6 +16,7 @@ public:
 
 private:
     DatabaseSession &m_session;
+    const bool m_isInner; ///< within another one
     bool m_open;
 };
 

@@ -5,8 +5,10 @@
 #include "query.h"
 
 WriteTransaction::WriteTransaction(DatabaseSession &session)
-    : m_session(session), m_open(session.database()->beginWriting())
+    : m_session(session), m_isInner(session.isEnclosed()), m_open(m_isInner || session.database()->beginWriting())
 {
+    if (m_isInner)
+        return;
     if (m_open)
         m_session.invalidateIfChanged();
     else
@@ -15,7 +17,7 @@ WriteTransaction::WriteTransaction(DatabaseSession &session)
 
 WriteTransaction::~WriteTransaction()
 {
-    if (m_open) {
+    if (m_open && !m_isInner) {
         m_session.query()->finish();
         m_session.database()->rollback();
     }
@@ -24,6 +26,8 @@ WriteTransaction::~WriteTransaction()
 bool WriteTransaction::commit()
 {
     m_session.query()->finish();
+    if (m_isInner)
+        return true;
     m_open = m_session.isTrial() ? !m_session.database()->rollback() : !m_session.database()->commit();
     if (!m_open)
         return true;

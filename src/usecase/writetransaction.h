@@ -20,6 +20,7 @@ public:
 
 private:
     DatabaseSession &m_session;
+    const bool m_isInner; ///< within another one, which decides
     bool m_open;
 };
 

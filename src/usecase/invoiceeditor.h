@@ -1,0 +1,48 @@
+#ifndef INVOICEEDITOR_H
+#define INVOICEEDITOR_H
+
+#include "customer.h"
+#include "invoice.h"
+
+struct UseCaseContext;
+
+/**
+ * Builds an invoice, a new one or a change of a stored one, with what follows from each of its values. The order of the
+ * calls counts: a customer and a number make the reference number and the notice texts anew, a date the due date. For
+ * use in a transaction of the caller's.
+ */
+class InvoiceEditor {
+public:
+    explicit InvoiceEditor(UseCaseContext &context) : m_context(context) {}
+
+    /** Reads what the effects need and fills a new invoice's defaults: today, terms and interest of the settings. */
+    [[nodiscard]] bool begin();
+    /** Goes on with a stored invoice. @return false with the failure told */
+    [[nodiscard]] bool edit(const Invoice &stored);
+
+    Invoice &invoice() { return m_invoice; }
+    const Customer &customer() const { return m_customer; } ///< empty while not known
+    bool isStored() const { return m_isStored; }
+
+    void useCustomer(const Customer &customer);
+    void setNumber(int number);
+    /** With the due date that the payment terms give. @return false, told, when they lead beyond the calendar */
+    [[nodiscard]] bool setDate(const QDate &date);
+    /** The due date stays. @return as setDate() */
+    [[nodiscard]] bool setPaymentTerms(const QString &terms);
+
+    /** Saves; a new invoice gets its due date and the next number, and must have a customer. */
+    [[nodiscard]] bool save();
+
+private:
+    void updateReferenceNumber();
+    bool checkTerms() const;
+    bool complete();
+
+    UseCaseContext &m_context;
+    Invoice m_invoice;
+    Customer m_customer;
+    bool m_isStored = false;
+};
+
+#endif

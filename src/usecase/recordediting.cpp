@@ -1,0 +1,117 @@
+#include "recordediting.h"
+
+#include "bankaccount.h"
+#include "customer.h"
+#include "invoiceitem.h"
+#include "payment.h"
+#include "product.h"
+#include "query.h"
+#include "usecasecontext.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+using InvoiceTotals::Outcome;
+
+template <class Record>
+bool saveListed(UseCaseContext &context, Record &record, bool (Query::*save)(Record *), CachedList list,
+                int LastSavedIds::*lastSaved)
+{
+    if (!(context.session.query()->*save)(&record))
+        return context.session.failQuery();
+    context.session.invalidate(list);
+    context.lastSaved.*lastSaved = record.id;
+    return true;
+}
+
+} // namespace
+
+bool RecordEditing::giveNumber(UseCaseContext &context, Customer &customer)
+{
+    if (customer.number >= 0)
+        return true;
+    const int highest = context.session.query()->maxCustomerNumber();
+    if (!context.session.query()->lastError().isEmpty())
+        return context.session.failQuery();
+    if (highest == std::numeric_limits<int>::max())
+        return context.listener.fail(Failure::noNextCustomerNumber);
+    customer.number = std::max(highest, 0) + 1;
+    return true;
+}
+
+bool RecordEditing::save(UseCaseContext &context, BankAccount &account)
+{
+    return saveListed(context, account, &Query::saveBankAccount, CachedList::bankAccounts, &LastSavedIds::bankAccount);
+}
+
+bool RecordEditing::save(UseCaseContext &context, Customer &customer)
+{
+    return giveNumber(context, customer) &&
+           saveListed(context, customer, &Query::saveCustomer, CachedList::customers, &LastSavedIds::customer);
+}
+
+bool RecordEditing::save(UseCaseContext &context, Product &product)
+{
+    return saveListed(context, product, &Query::saveProduct, CachedList::products, &LastSavedIds::product);
+}
+
+Outcome RecordEditing::saveRow(UseCaseContext &context, InvoiceItem &row, int earlierInvoiceId)
+{
+    const auto fail = [](bool) { return Outcome::tooLarge; };
+    constexpr long long most = std::numeric_limits<int>::max();
+    const long long total = row.totalAmountVatIncluded();
+    if (total > most || total < -most)
+        return fail(context.listener.fail(Failure::rowTotalTooLarge));
+    Query *query = context.session.query();
+    if (row.id < 0) {
+        row.rowNumber = query->nextRowNumber(row.invoiceId);
+        if (row.rowNumber < 0)
+            return fail(context.session.failQuery());
+    }
+    context.listener.note(Notice::savingRow, {QString::number(row.invoiceId), row.productName});
+    if (!query->saveInvoiceItem(&row))
+        return fail(context.session.failQuery());
+    const Outcome outcome = InvoiceTotals::updateInvoices(context, row.invoiceId, earlierInvoiceId);
+    if (outcome != Outcome::tooLarge)
+        context.lastSaved.invoiceItem = row.id;
+    return outcome;
+}
+
+Outcome RecordEditing::savePayment(UseCaseContext &context, Payment &payment, int earlierInvoiceId)
+{
+    context.listener.note(Notice::savingPayment);
+    if (!context.session.query()->savePayment(&payment)) {
+        context.session.failQuery();
+        return Outcome::tooLarge;
+    }
+    return InvoiceTotals::updateInvoices(context, payment.invoiceId, earlierInvoiceId);
+}
+
+bool RecordEditing::remove(UseCaseContext &context, BankAccount &account)
+{
+    account.deleted = true;
+    context.session.invalidate(CachedList::bankAccounts);
+    return context.session.query()->saveBankAccount(&account) || context.session.failQuery();
+}
+
+bool RecordEditing::remove(UseCaseContext &context, Customer &customer)
+{
+    customer.deleted = true;
+    context.session.invalidate(CachedList::customers);
+    return context.session.query()->saveCustomer(&customer) || context.session.failQuery();
+}
+
+bool RecordEditing::remove(UseCaseContext &context, const Product &product)
+{
+    context.session.invalidate(CachedList::products);
+    return context.session.query()->deleteProduct(product.id) || context.session.failQuery();
+}
+
+bool RecordEditing::removeInvoice(UseCaseContext &context, int id)
+{
+    Query *query = context.session.query();
+    return (query->deleteInvoiceItems(id) && query->deletePayments(id) && query->deleteInvoice(id)) ||
+           context.session.failQuery();
+}
