@@ -1,5 +1,6 @@
 #include "answer.h"
 
+#include "integer.h"
 #include "problem.h"
 #include "suggestions.h"
 #include "terminal.h"
@@ -298,6 +299,37 @@ void Answer::object(const std::function<void(JsonWriter &)> &members, const QStr
     endMembers(json);
     json.endObject();
     m_buffer += '\n';
+}
+
+void Answer::removed(const QStringList &handles)
+{
+    if (m_options.quiet) {
+        for (const QString &handle : handles)
+            line(handle);
+        return;
+    }
+    if (m_options.form == OutputForm::csv) {
+        line(QStringLiteral("removed"));
+        for (const QString &handle : handles)
+            line(csvCell(handle));
+        return;
+    }
+    object(
+        [&handles](JsonWriter &json) {
+            json.member("removed", static_cast<int>(handles.size()));
+            json.name("records");
+            json.beginArray();
+            for (const QString &handle : handles) {
+                bool isNumber = false;
+                const int number = Integer::parse(handle, isNumber);
+                if (isNumber)
+                    json.number(number);
+                else
+                    json.string(handle);
+            }
+            json.endArray();
+        },
+        text(TEXT("Poistettu %1: %2")).arg(QString::number(handles.size()), handles.join(QLatin1String(", "))));
 }
 
 void Answer::line(const QString &text) { m_buffer += text.toUtf8() + '\n'; }

@@ -61,6 +61,10 @@ public:
     [[nodiscard]] bool saved(const RecordTable &table, const void *record, const QString &sentence, ProblemSink &sink);
     /** An answer without a table: JSON members in the machine forms, a sentence for people. */
     void object(const std::function<void(JsonWriter &)> &members, const QString &sentence);
+    /** What a removing command answers with. @param handles  of the records, as texts */
+    void removed(const QStringList &handles);
+    /** A document in place of an answer. */
+    void bytes(const QByteArray &document) { m_buffer += document; }
     /** A line of text for people. */
     void line(const QString &text);
     /** What to do next; only a person at a terminal is told. */

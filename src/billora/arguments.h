@@ -31,6 +31,8 @@ public:
 
     /** The rows of an invoice, each with the fields of a row and `product`. */
     QVector<Arguments> rows;
+    bool hasRows = false; ///< the rows were given, perhaps none
+    QStringList nulls;    ///< names that were given as null: their texts are empty
 
 private:
     QHash<QString, QStringList> m_values;

@@ -40,7 +40,7 @@ public:
     bool fail(const Problem &problem) { return session.fail(problem); }
 
     /** Whether a flag of the command was given. */
-    bool flag(const char *name) const { return arguments.text(name) == QLatin1String("true"); }
+    bool flag(const char *name) const { return ValueReader::isTrue(arguments.text(name)); }
 
     /**
      * Asks before something is lost. With --yes, or in a trial, nothing is asked.

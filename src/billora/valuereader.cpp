@@ -151,16 +151,21 @@ bool ValueReader::word(const QString &name, const Choice *choices, const QString
                      Suggestions::nearest(value, words));
 }
 
-bool ValueReader::flag(const QString &name, const QString &value, bool &result) const
+bool ValueReader::isTrue(const QString &value)
 {
     static const QStringList yes = {QStringLiteral("true"), QStringLiteral("yes"),        QStringLiteral("y"),
                                     QStringLiteral("1"),    QStringLiteral("kyll\u00e4"), QStringLiteral("k")};
+    return yes.contains(value.toLower());
+}
+
+bool ValueReader::flag(const QString &name, const QString &value, bool &result) const
+{
     static const QStringList no = {QStringLiteral("false"), QStringLiteral("no"), QStringLiteral("n"),
                                    QStringLiteral("0"),     QStringLiteral("ei"), QStringLiteral("e")};
-    const QString lower = value.toLower();
-    if (!yes.contains(lower) && !no.contains(lower))
+    const bool isYes = isTrue(value);
+    if (!isYes && !no.contains(value.toLower()))
         return failValue(name, value, ::text(TEXT("arvo on true tai false")));
-    result = yes.contains(lower);
+    result = isYes;
     return true;
 }
 

@@ -38,6 +38,8 @@ public:
     bool text(const QString &name, ValueType type, const QString &value, QString &result) const;
     /** One of the choices, letter case aside. */
     bool word(const QString &name, const Choice *choices, const QString &value, QString &result) const;
+    /** Whether a text is a yes of flag(). */
+    static bool isTrue(const QString &value);
     /** `true yes y 1 kyllä k`, `false no n 0 ei e`. */
     bool flag(const QString &name, const QString &value, bool &result) const;
     /**

@@ -31,13 +31,14 @@ public:
     /** The due date stays. @return as setDate() */
     [[nodiscard]] bool setPaymentTerms(const QString &terms);
 
-    /** Saves; a new invoice gets its due date and the next number, and must have a customer. */
+    /** What a new invoice needs and was not given: the due date and the next number; it must have a customer. */
+    [[nodiscard]] bool complete();
+    /** Saves; a new invoice is completed first. */
     [[nodiscard]] bool save();
 
 private:
     void updateReferenceNumber();
     bool checkTerms() const;
-    bool complete();
 
     UseCaseContext &m_context;
     Invoice m_invoice;

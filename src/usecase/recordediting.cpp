@@ -26,6 +26,14 @@ bool saveListed(UseCaseContext &context, Record &record, bool (Query::*save)(Rec
     return true;
 }
 
+/** A row's total must fit its 32 bits of cents. */
+bool checkTotal(UseCaseContext &context, const InvoiceItem &row)
+{
+    constexpr long long most = std::numeric_limits<int>::max();
+    const long long total = row.totalAmountVatIncluded();
+    return (total <= most && total >= -most) || context.listener.fail(Failure::rowTotalTooLarge);
+}
+
 } // namespace
 
 bool RecordEditing::giveNumber(UseCaseContext &context, Customer &customer)
@@ -57,13 +65,29 @@ bool RecordEditing::save(UseCaseContext &context, Product &product)
     return saveListed(context, product, &Query::saveProduct, CachedList::products, &LastSavedIds::product);
 }
 
+bool RecordEditing::addRows(UseCaseContext &context, int invoiceId, QVector<InvoiceItem> &rows)
+{
+    Query *query = context.session.query();
+    int number = query->nextRowNumber(invoiceId);
+    if (number < 0)
+        return context.session.failQuery();
+    for (InvoiceItem &row : rows) {
+        row.invoiceId = invoiceId;
+        row.rowNumber = number++;
+        if (!checkTotal(context, row))
+            return false;
+        if (!query->saveInvoiceItem(&row))
+            return context.session.failQuery();
+        context.lastSaved.invoiceItem = row.id;
+    }
+    return InvoiceTotals::updateInvoice(context, invoiceId) == Outcome::updated;
+}
+
 Outcome RecordEditing::saveRow(UseCaseContext &context, InvoiceItem &row, int earlierInvoiceId)
 {
     const auto fail = [](bool) { return Outcome::tooLarge; };
-    constexpr long long most = std::numeric_limits<int>::max();
-    const long long total = row.totalAmountVatIncluded();
-    if (total > most || total < -most)
-        return fail(context.listener.fail(Failure::rowTotalTooLarge));
+    if (!checkTotal(context, row))
+        return Outcome::tooLarge;
     Query *query = context.session.query();
     if (row.id < 0) {
         row.rowNumber = query->nextRowNumber(row.invoiceId);

@@ -3,6 +3,8 @@
 
 #include "invoicetotals.h"
 
+#include <QVector>
+
 class BankAccount;
 class Customer;
 class InvoiceItem;
@@ -29,6 +31,8 @@ namespace RecordEditing {
  * @return tooLarge and failed with the failure told; the row is not saved when it cannot be stored
  */
 [[nodiscard]] InvoiceTotals::Outcome saveRow(UseCaseContext &context, InvoiceItem &row, int earlierInvoiceId);
+/** Adds rows behind those of an invoice, with one update of its total. */
+[[nodiscard]] bool addRows(UseCaseContext &context, int invoiceId, QVector<InvoiceItem> &rows);
 /** The same for a payment. */
 [[nodiscard]] InvoiceTotals::Outcome savePayment(UseCaseContext &context, Payment &payment, int earlierInvoiceId);
 

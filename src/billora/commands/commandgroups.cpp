@@ -1,3 +1,3 @@
 #include "commandgroups.h"
 
-QVector<CommandGroup> commandGroups() { return {invoiceCommands(), customerCommands(), programCommands()}; }
+QVector<CommandGroup> commandGroups() { return {invoiceCommands(), customerCommands(), productCommands(), accountCommands(), paymentCommands(), programCommands()}; }

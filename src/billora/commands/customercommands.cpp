@@ -1,6 +1,7 @@
 #include "commandgroups.h"
 
 #include "query.h"
+#include "recordcommands.h"
 #include "recordlist.h"
 #include "records.h"
 #include "references.h"
@@ -56,6 +57,61 @@ bool show(Task &task)
            addBalances(task, records) && task.answer.show(customerTable, &records.at(0), task.session);
 }
 
+struct Kind {
+    using Record = CustomerRecord;
+    static constexpr auto part = &CustomerRecord::customer;
+    static constexpr const RecordTable &table = customerTable;
+    static constexpr char word[] = "customer";
+    static constexpr auto find = &References::customer;
+    static constexpr char added[] = TEXT("Asiakas %1 lisätty: %2");
+    static constexpr char changed[] = TEXT("Asiakas %1 muutettu: %2");
+    static constexpr char removing[] = TEXT("Poistetaanko asiakas %1?");
+
+    static bool check(Task &task, const Customer &customer, const Customer *earlier)
+    {
+        const bool isNewId = !earlier || earlier->vatNumber != customer.vatNumber;
+        if (isNewId && !customer.vatNumber.isEmpty() && !Customer::isValidVatNumberOrBusinessId(customer.vatNumber))
+            return task.reader.failValue(QStringLiteral("vatNumber"), customer.vatNumber,
+                                         text(TEXT("Y-tunnus tai ALV-numero ei ole oikein")));
+        if (customer.number < 0 || (earlier && earlier->number == customer.number))
+            return true;
+        Query *query = task.context().session.query();
+        if (!query->fetchCustomersByNumber(customer.number))
+            return task.context().session.failQuery();
+        bool isTaken = false;
+        const bool isWhole = query->readAll([&] {
+            Customer other;
+            query->customer(&other);
+            isTaken = isTaken || (!other.deleted && other.id != customer.id);
+        });
+        if (!isWhole)
+            return task.context().session.failQuery();
+        return !isTaken || task.fail(Problem::exists, text(TEXT("asiakasnumero on jo käytössä: %1")).arg(customer.number),
+                                     QStringLiteral("number"), QString::number(customer.number));
+    }
+
+    static QString nextStep(const Customer &customer)
+    {
+        return QStringLiteral("billora invoice add %1 --row \"...\"").arg(customer.number);
+    }
+
+    static bool remark(Task &task, QVector<CustomerRecord> &records, QString &remark)
+    {
+        if (!addBalances(task, records))
+            return false;
+        int count = 0;
+        for (const CustomerRecord &record : qAsConst(records))
+            count += record.openCount;
+        if (count > 0)
+            remark = QLatin1Char(' ') + text(TEXT("Avoimia laskuja on %1.")).arg(count);
+        return true;
+    }
+};
+
+constexpr Option removeWords[] = {
+    {"customer", ValueType::customer, TEXT("asiakkaat"), Option::plainWord | Option::required | Option::onlyWord | Option::list},
+};
+
 constexpr Command commands[] = {
     {"customer list",
      TEXT("luettelo asiakkaista"),
@@ -75,6 +131,15 @@ constexpr Command commands[] = {
      {group(words)},
      "customer show 10\n"
      "customer show aallotar"},
+    {"customer add", TEXT("uusi asiakas"), RecordCommands::add<Kind>, Command::writes | Command::adds | Command::keyed,
+     &customerTable, &customerTable, {},
+     "customer add \"Kirjakauppa Kuukkeli\" --town Joensuu --email ostot@kuukkeli.example"},
+    {"customer edit", TEXT("muuttaa asiakkaan tietoja; ilman kenttiä muokkaimessa"), RecordCommands::edit<Kind>,
+     Command::writes, &customerTable, &customerTable, {group(words)},
+     "customer edit 10 --payment-terms \"21 pv netto\""},
+    {"customer remove", TEXT("poistaa asiakkaita; laskut jäävät"), RecordCommands::remove<Kind>,
+     Command::writes | Command::destructive, nullptr, nullptr, {group(removeWords)},
+     "customer remove 10 --yes"},
 };
 
 } // namespace

@@ -1,12 +1,33 @@
 #include "commandgroups.h"
 
+#include "editorfile.h"
+#include "exportinvoices.h"
+#include "integer.h"
 #include "invoicereader.h"
+#include "invoicewriter.h"
+#include "jsonarguments.h"
+#include "jsonwriter.h"
+#include "optionparser.h"
+#include "printscript.h"
+#include "progressbar.h"
+#include "prompt.h"
 #include "query.h"
+#include "recordediting.h"
+#include "recordfields.h"
 #include "records.h"
 #include "references.h"
+#include "rowwords.h"
 #include "selection.h"
 #include "sharedoptions.h"
 #include "task.h"
+#include "terminal.h"
+#include "valuewriter.h"
+#include "writetransaction.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
 
 namespace {
 
@@ -35,6 +56,500 @@ bool show(Task &task)
            InvoiceReader::readWhole(task, invoice.id, record) && task.answer.show(invoiceTable, &record, task.session);
 }
 
+/** What the commands that make or change an invoice answer with; the sentence's "%1" to "%5" are the invoice's. */
+bool answer(Task &task, const InvoiceRecord &record, const char *sentence)
+{
+    const Invoice &invoice = record.invoice;
+    const QString line = text(sentence)
+                             .arg(QString::number(invoice.number), record.customerName,
+                                  ValueWriter::money(invoice.totalAmount), ValueWriter::date(invoice.dueDate),
+                                  Invoice::formatReferenceNumber(invoice.referenceNumber));
+    return task.answer.saved(invoiceTable, &record, line, task.session);
+}
+
+constexpr char savedSentence[] = TEXT("Lasku %1 lisätty: %2, %3, eräpäivä %4, viite %5");
+constexpr char changedSentence[] = TEXT("Lasku %1 muutettu: %2, %3, eräpäivä %4, viite %5");
+constexpr char creditedSentence[] = TEXT("Hyvityslasku %1 lisätty: %2, %3, eräpäivä %4, viite %5");
+
+/** The PDF of an invoice that was just made. */
+bool exportNew(Task &task, int id)
+{
+    ExportInvoices::Request request;
+    request.criteria.id = id;
+    request.isTrial = task.manners.isDryRun;
+    QVector<ExportInvoices::File> files;
+    if (!ExportInvoices::run(task.context(), request, files))
+        return false;
+    for (const ExportInvoices::File &file : qAsConst(files)) {
+        if (task.answer.wantsSentences())
+            task.answer.line(file.fileName);
+    }
+    return true;
+}
+
+/** Ends the making of an invoice: its rows, the answer, and the commit between them. */
+bool finish(Task &task, InvoiceEditor &editor, QVector<InvoiceItem> &rows, WriteTransaction &transaction,
+            const char *sentence)
+{
+    if (!editor.save())
+        return false;
+    const int id = editor.invoice().id;
+    task.context().lastSaved.invoice = id;
+    InvoiceRecord record;
+    if (!RecordEditing::addRows(task.context(), id, rows) || !InvoiceReader::readWhole(task, id, record) ||
+        !transaction.commit() || !answer(task, record, sentence))
+        return false;
+    if (task.flag("export") && !exportNew(task, id))
+        return false;
+    if (!task.flag("export"))
+        task.answer.hint(text(TEXT("Seuraavaksi: ")) +
+                         QStringLiteral("billora invoice export %1").arg(record.invoice.number));
+    return true;
+}
+
+constexpr Option addOptions[] = {
+    {"customer", ValueType::customer, TEXT("asiakas"), Option::plainWord | Option::required},
+    {"row", ValueType::row, TEXT("rivi: \"TUOTE [MÄÄRÄ] [KENTTÄ=ARVO]…\"; - on rivi ilman tuotetta"), Option::list},
+    {"from", ValueType::file, TEXT("kentät ja rivit JSON-tiedostosta; - on vakiosyöte")},
+    {"export", ValueType::flag, TEXT("kirjoittaa myös PDF-tiedoston")},
+};
+
+/** Joins the fields of a file with those of the line. */
+bool readFrom(Task &task, Arguments &given)
+{
+    if (!given.has("from"))
+        return true;
+    const QString name = given.text("from");
+    QFile file(name);
+    const bool isOpen = name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    if (!isOpen)
+        return task.fail(Problem::file, text(TEXT("tiedostoa %1 ei voi lukea: %2")).arg(name, file.errorString()),
+                         QStringLiteral("from"), name);
+    Arguments read;
+    if (!JsonArguments::readObject(task.reader, file.readAll(), read))
+        return false;
+    const QStringList names = read.names();
+    for (const QString &field : names) {
+        const bool isKnown = field == QLatin1String("customer") ||
+                             (invoiceTable.find(field) && invoiceTable.find(field)->is(Field::editable));
+        if (!isKnown)
+            return task.fail(Problem::unknownField, text(TEXT("kenttää ei ole: %1")).arg(field), field);
+        if (given.has(field))
+            return task.fail(Problem::conflict, text(TEXT("kenttä on kahdesti: %1")).arg(field), field);
+        given.add(field, read.text(field));
+    }
+    given.rows += read.rows;
+    return true;
+}
+
+/** Asks a person for what a new invoice needs. @return false when they gave up */
+bool ask(Task &task, Arguments &given)
+{
+    QString customer, row;
+    if (Prompt::ask(text(TEXT("Asiakas")), QString(), customer) != Prompt::answered || customer.isEmpty())
+        return task.fail(Problem::declined, text(TEXT("mitään ei tehty")));
+    Customer found;
+    if (!References::customer(task, QStringLiteral("customer"), customer, found))
+        return false;
+    given.add(QStringLiteral("customer"), QStringLiteral("id:%1").arg(found.id));
+    while (given.rows.isEmpty() || !row.isEmpty()) {
+        row.clear();
+        if (Prompt::ask(text(TEXT("Rivi (TUOTE MÄÄRÄ, tyhjä lopettaa)")), QString(), row) != Prompt::answered)
+            return task.fail(Problem::declined, text(TEXT("mitään ei tehty")));
+        if (row.isEmpty())
+            break;
+        Arguments words;
+        InvoiceItem item;
+        if (RowWords::parse(task.reader, QStringLiteral("row"), row, words) &&
+            RecordFields::applyRow(task, words, true, item)) {
+            given.rows.append(words);
+            continue;
+        }
+        Terminal::writeError(task.session.problem().message);
+        task.session.clearProblem();
+    }
+    return true;
+}
+
+bool add(Task &task)
+{
+    Arguments given = task.arguments;
+    if (!readFrom(task, given) || !InvoiceWriter::takeRowWords(task, given))
+        return false;
+    const bool asked = !given.has("customer");
+    if (asked) {
+        if (!task.manners.isInteractive)
+            return task.fail(OptionParser::missing(task.command, task.arguments));
+        if (!ask(task, given))
+            return false;
+    }
+    WriteTransaction transaction(task.context().session);
+    if (!transaction.hasBegun())
+        return false;
+    InvoiceEditor editor(task.context());
+    QVector<InvoiceItem> rows;
+    if (!editor.begin() || !InvoiceWriter::applyFields(task, given, editor) ||
+        !InvoiceWriter::readRows(task, given.rows, rows))
+        return false;
+    if (asked) {
+        long long total = 0;
+        for (const InvoiceItem &row : qAsConst(rows))
+            total += row.totalAmountVatIncluded();
+        if (!task.manners.agreesToAll &&
+            !Prompt::agrees(text(TEXT("Lasku %1: %2, %3. Tallennetaanko?"))
+                                .arg(QString::number(editor.invoice().number), editor.customer().name,
+                                     ValueWriter::money(total))))
+            return task.fail(Problem::declined, text(TEXT("mitään ei tehty")));
+    }
+    return finish(task, editor, rows, transaction, savedSentence);
+}
+
+constexpr Option editWords[] = {
+    {"invoice", ValueType::invoice, TEXT("lasku"), Option::plainWord | Option::required | Option::onlyWord},
+    {"customer", ValueType::customer, TEXT("asiakas")},
+};
+
+/** @param seen  what was shown to a person who edited it; null when nothing was */
+bool change(Task &task, const QString &word, const Arguments &given, const InvoiceRecord *seen)
+{
+    WriteTransaction transaction(task.context().session);
+    if (!transaction.hasBegun())
+        return false;
+    Invoice stored;
+    InvoiceEditor editor(task.context());
+    InvoiceRecord record;
+    if (!References::invoice(task, QStringLiteral("invoice"), word, stored) || !editor.begin())
+        return false;
+    if (seen) {
+        const auto json = [](const InvoiceRecord &shown) {
+            QByteArray bytes;
+            JsonWriter(bytes).record(invoiceTable, &shown);
+            return bytes;
+        };
+        if (!InvoiceReader::readWhole(task, stored.id, record))
+            return false;
+        if (json(record) != json(*seen))
+            return task.fail(Problem::changedMeanwhile, text(TEXT("joku muu on muuttanut tietoja sillä välin")));
+    }
+    if (!editor.edit(stored) || !InvoiceWriter::applyFields(task, given, editor) || !editor.save())
+        return false;
+    if (given.hasRows) {
+        QVector<InvoiceItem> rows;
+        if (!InvoiceWriter::readRows(task, given.rows, rows))
+            return false;
+        if (!task.context().session.query()->deleteInvoiceItems(stored.id))
+            return task.context().session.failQuery();
+        if (!RecordEditing::addRows(task.context(), stored.id, rows))
+            return false;
+    }
+    task.context().lastSaved.invoice = stored.id;
+    return InvoiceReader::readWhole(task, stored.id, record) && transaction.commit() &&
+           answer(task, record, changedSentence);
+}
+
+bool edit(Task &task)
+{
+    const QString word = task.arguments.text("invoice");
+    if (task.arguments.has("customer") || RecordFields::hasAny(invoiceTable, task.arguments))
+        return change(task, word, task.arguments, nullptr);
+    if (!task.manners.isInteractive)
+        return task.fail(Problem::missingOption, text(TEXT("mitä muutetaan? Anna kenttiä valintoina")));
+    Invoice invoice;
+    InvoiceRecord seen;
+    if (!References::invoice(task, QStringLiteral("invoice"), word, invoice) ||
+        !InvoiceReader::readWhole(task, invoice.id, seen))
+        return false;
+    const QStringList rows = InvoiceWriter::rowLines(seen);
+    bool isUnchanged = false;
+    const bool edited = EditorFile::edit(
+        task, invoiceTable, &seen, &rows,
+        [&](const Arguments &changed) {
+            return change(task, QStringLiteral("id:%1").arg(invoice.id), changed, &seen);
+        },
+        isUnchanged);
+    return edited && (!isUnchanged || answer(task, seen, TEXT("Mitään ei muutettu: lasku %1")));
+}
+
+bool remove(Task &task)
+{
+    InvoiceSelection selection;
+    if (!Selection::readInvoices(task, selection, true))
+        return false;
+    WriteTransaction transaction(task.context().session);
+    QVector<InvoiceRecord> records;
+    if (!transaction.hasBegun() || !InvoiceReader::read(task, selection, false, [&records](const InvoiceRecord &record) {
+            records.append(record);
+            return true;
+        }))
+        return false;
+    if (records.isEmpty())
+        return task.fail(Problem::notFound, text(TEXT("yhtään laskua ei löytynyt")), QStringLiteral("invoices"));
+    QStringList handles, lines;
+    for (const InvoiceRecord &record : qAsConst(records)) {
+        handles.append(QString::number(record.invoice.number));
+        if (lines.size() < 10)
+            lines.append(QStringLiteral("  %1  %2  %3  %4")
+                             .arg(QString::number(record.invoice.number), ValueWriter::date(record.invoice.date),
+                                  record.customerName, ValueWriter::money(record.invoice.totalAmount)));
+    }
+    const QString question = lines.join(QLatin1Char('\n')) + QLatin1Char('\n') +
+                             text(TEXT("Poistetaanko %1 laskua riveineen ja suorituksineen?")).arg(records.size());
+    if (!task.confirm(question, records.size(), task.flag("all")))
+        return false;
+    for (const InvoiceRecord &record : qAsConst(records)) {
+        if (!RecordEditing::removeInvoice(task.context(), record.invoice.id))
+            return false;
+    }
+    if (!transaction.commit())
+        return false;
+    task.answer.removed(handles);
+    return true;
+}
+
+constexpr Option copyWords[] = {
+    {"invoice", ValueType::invoice, TEXT("lasku"), Option::plainWord | Option::required | Option::onlyWord},
+    {"customer", ValueType::customer, TEXT("asiakas, jos toinen")},
+    {"export", ValueType::flag, TEXT("kirjoittaa myös PDF-tiedoston")},
+};
+
+/** A new invoice of today for the same customer with the values of another. */
+bool startCopy(Task &task, const Invoice &original, InvoiceEditor &editor)
+{
+    if (!editor.begin())
+        return false;
+    Customer customer;
+    if (!task.context().finder.findCustomerById(original.customerId, &customer) && !task.arguments.has("customer"))
+        return false;
+    task.session.clearProblem();
+    Invoice &invoice = editor.invoice();
+    invoice.delivery = original.delivery;
+    invoice.buyerRef = original.buyerRef;
+    invoice.sellerRef = original.sellerRef;
+    invoice.interestOnArrears = original.interestOnArrears;
+    if (customer.id >= 0)
+        editor.useCustomer(customer);
+    return editor.setPaymentTerms(original.paymentTerms);
+}
+
+bool copy(Task &task)
+{
+    WriteTransaction transaction(task.context().session);
+    Invoice stored;
+    InvoiceRecord original;
+    InvoiceEditor editor(task.context());
+    if (!transaction.hasBegun() ||
+        !References::invoice(task, QStringLiteral("invoice"), task.arguments.text("invoice"), stored) ||
+        !InvoiceReader::readWhole(task, stored.id, original) || !startCopy(task, stored, editor))
+        return false;
+    editor.invoice().type = stored.type;
+    Arguments given = task.arguments;
+    if (!given.has("paymentTerms"))
+        given.add(QStringLiteral("paymentTerms"), stored.paymentTerms);
+    if (!InvoiceWriter::applyFields(task, given, editor))
+        return false;
+    QVector<InvoiceItem> rows;
+    for (const RowRecord &row : qAsConst(original.rows)) {
+        rows.append(row.item);
+        rows.last().id = -1;
+    }
+    return finish(task, editor, rows, transaction, savedSentence);
+}
+
+constexpr Option creditWords[] = {
+    {"invoice", ValueType::invoice, TEXT("hyvitettävä lasku"), Option::plainWord | Option::required | Option::onlyWord},
+    {"only", ValueType::text, TEXT("vain nämä rivit, pilkuin erotettuina: 1,3"), 0, nullptr, 0, "ROWS"},
+    {"export", ValueType::flag, TEXT("kirjoittaa myös PDF-tiedoston")},
+};
+
+/** The positions that `only` names, all when it is not given. */
+bool readOnly(Task &task, int count, QVector<int> &positions)
+{
+    if (!task.arguments.has("only")) {
+        for (int i = 0; i < count; ++i)
+            positions.append(i);
+        return true;
+    }
+    const QString value = task.arguments.text("only");
+    const QStringList words = value.split(QLatin1Char(','));
+    for (const QString &word : words) {
+        bool isNumber = false;
+        const int position = Integer::parse(word.trimmed(), isNumber);
+        if (!isNumber || position < 1 || position > count || positions.contains(position - 1))
+            return task.reader.failValue(QStringLiteral("only"), value,
+                                         text(TEXT("laskun rivejä 1–%1, kukin kerran")).arg(count));
+        positions.append(position - 1);
+    }
+    return true;
+}
+
+bool credit(Task &task)
+{
+    WriteTransaction transaction(task.context().session);
+    Invoice stored;
+    InvoiceRecord original;
+    InvoiceEditor editor(task.context());
+    QVector<int> positions;
+    if (!transaction.hasBegun() ||
+        !References::invoice(task, QStringLiteral("invoice"), task.arguments.text("invoice"), stored))
+        return false;
+    if (stored.type == Invoice::creditNote)
+        return task.fail(Problem::rule, text(TEXT("lasku %1 on jo hyvityslasku")).arg(stored.number),
+                         QStringLiteral("invoice"), task.arguments.text("invoice"));
+    if (!InvoiceReader::readWhole(task, stored.id, original) || !readOnly(task, original.rows.size(), positions) ||
+        !startCopy(task, stored, editor))
+        return false;
+    Invoice &invoice = editor.invoice();
+    invoice.type = Invoice::creditNote;
+    invoice.buyerRef = text(TEXT("Lasku %1")).arg(stored.number);
+    invoice.setProperty(QStringLiteral("bt25"), QString::number(stored.number));
+    invoice.setProperty(QStringLiteral("bt26"), stored.date.toString(Qt::ISODate));
+    Arguments given = task.arguments;
+    if (!given.has("paymentTerms"))
+        given.add(QStringLiteral("paymentTerms"), stored.paymentTerms);
+    if (!InvoiceWriter::applyFields(task, given, editor))
+        return false;
+    QVector<InvoiceItem> rows;
+    for (const int position : qAsConst(positions)) {
+        rows.append(original.rows.at(position).item);
+        rows.last().id = -1;
+        rows.last().quantity = -rows.last().quantity;
+    }
+    return finish(task, editor, rows, transaction, creditedSentence);
+}
+
+constexpr Choice documentKinds[] = {{"reminder", TEXT("maksumuistutus")},
+                                    {"receipt", TEXT("kuitti")},
+                                    {"delivery-note", TEXT("lähetyslista")},
+                                    {nullptr, nullptr}};
+constexpr int printTypes[] = {InvoicePrintModel::reminder, InvoicePrintModel::receipt, InvoicePrintModel::deliveryNote};
+constexpr Choice formats[] = {{"pdf", TEXT("PDF")}, {"csv", TEXT("CSV, kaikki yhteen tiedostoon")}, {"finvoice", TEXT("Finvoice 1.3")}, {nullptr, nullptr}};
+
+constexpr Option exportOptions[] = {
+    {"all", ValueType::flag, TEXT("kaikki")},
+    {"as", ValueType::word, TEXT("asiakirjan laji, jos muu kuin laskun oma"), 0, documentKinds},
+    {"format", ValueType::word, TEXT("tiedoston muoto; muuten nimen mukaan"), 0, formats},
+    {"layout", ValueType::layout, TEXT("laskupohja, jos muu kuin valittu")},
+    {"soap", ValueType::flag, TEXT("Finvoice välitysotsikoineen")},
+    {"output", ValueType::file, TEXT("tiedoston nimi; $i on laskun ja $n asiakkaan nimi tai numero, - on vakiotuloste"), 0, nullptr, 'o', "PATTERN"},
+    {"csvDelimiter", ValueType::text, TEXT("CSV-tiedoston erotin")},
+};
+
+bool readChoice(Task &task, const char *name, const Choice *choices, int &index)
+{
+    QString word;
+    if (!task.arguments.has(name))
+        return true;
+    if (!task.reader.word(QLatin1String(name), choices, task.arguments.text(name), word))
+        return false;
+    for (int i = 0; choices[i].word; ++i) {
+        if (word == QLatin1String(choices[i].word))
+            index = i;
+    }
+    return true;
+}
+
+/** A single document onto standard output, by way of a folder of its own. */
+bool exportToOutput(Task &task, ExportInvoices::Request request)
+{
+    QTemporaryDir folder;
+    if (!folder.isValid())
+        return task.fail(Problem::file, folder.errorString());
+    const char *suffix = request.format == finvoiceFormat ? "xml" : request.format == csvFormat ? "csv" : "pdf";
+    request.fileName = folder.filePath(QLatin1String("document.") + QLatin1String(suffix));
+    QVector<ExportInvoices::File> files;
+    if (!ExportInvoices::run(task.context(), request, files))
+        return false;
+    if (files.size() != 1)
+        return task.fail(Problem::rule, text(TEXT("vakiotulosteeseen mahtuu yksi asiakirja, ei %1")).arg(files.size()),
+                         QStringLiteral("output"));
+    if (!files.first().exception.isEmpty())
+        return task.session.fail(Failure::scriptException, files.first().exception);
+    QFile file(files.first().fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return task.fail(Problem::file, file.errorString());
+    task.answer.bytes(file.readAll());
+    return true;
+}
+
+bool exportDocuments(Task &task)
+{
+    auto selection = std::make_shared<InvoiceSelection>();
+    ExportInvoices::Request request;
+    int kind = -1, format = -1;
+    if (!Selection::readInvoices(task, *selection, true) || !readChoice(task, "as", documentKinds, kind) ||
+        !readChoice(task, "format", formats, format))
+        return false;
+    if (kind >= 0)
+        request.printType = printTypes[kind];
+    if (format >= 0)
+        request.format = static_cast<PrintFormat>(format);
+    if (task.arguments.has("layout")) {
+        PrintScript layout;
+        const QString name = task.arguments.text("layout");
+        if (!Registry::builtInPrintScriptNames().contains(name) &&
+            !References::layout(task, QStringLiteral("layout"), name, layout))
+            return false;
+        request.script = layout.name.isEmpty() ? name : layout.name;
+    }
+    request.criteria.selection = selection;
+    request.criteria.limit = -1;
+    request.writeSoap = task.flag("soap");
+    request.makesFolders = true;
+    request.isTrial = task.manners.isDryRun;
+    if (task.arguments.has("csvDelimiter")) {
+        request.csvDelimiter = task.arguments.text("csvDelimiter");
+        if (request.csvDelimiter.size() != 1)
+            return task.reader.failValue(QStringLiteral("csvDelimiter"), request.csvDelimiter,
+                                         text(TEXT("erotin on yksi merkki")));
+    }
+    request.fileName = QDir::fromNativeSeparators(task.arguments.text("output"));
+    bool isAny = false;
+    if (!InvoiceReader::read(task, *selection, false, [&isAny](const InvoiceRecord &) {
+            isAny = true;
+            return false;
+        }))
+        return false;
+    if (!isAny)
+        return task.fail(Problem::notFound, text(TEXT("yhtään laskua ei löytynyt")), QStringLiteral("invoices"));
+    if (request.fileName == QLatin1String("-"))
+        return exportToOutput(task, request);
+    const bool isCsv = request.format == csvFormat || (!request.format && request.fileName.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive));
+    const QString csvName = request.fileName.isEmpty() ? QStringLiteral("laskut.csv") : request.fileName;
+    if (isCsv && QFileInfo::exists(csvName))
+        return task.session.fail(Failure::fileExists, {csvName});
+    std::unique_ptr<ProgressBar> bar;
+    if (task.manners.isInteractive || Terminal::isError())
+        request.progress = [&bar](int done, int total) {
+            if (!bar)
+                bar = std::make_unique<ProgressBar>(total);
+            bar->show(done);
+        };
+    QVector<ExportInvoices::File> files;
+    const bool written = ExportInvoices::run(task.context(), request, files);
+    bar.reset();
+    if (!written)
+        return false;
+    const bool isPlain = task.answer.wantsSentences();
+    if (!isPlain && !task.answer.beginList(fileTable, task.session))
+        return false;
+    for (const ExportInvoices::File &file : qAsConst(files)) {
+        FileRecord record;
+        record.fileName = file.fileName;
+        record.invoiceNumber = file.invoiceId < 0 ? -1 : file.invoiceNumber;
+        if (!file.exception.isEmpty()) {
+            record.error = text(TEXT("%1 (rivi %2)")).arg(file.exception.at(0), file.exception.at(1));
+            task.exitCode = exitNeedsLook;
+        }
+        if (isPlain)
+            task.answer.line(record.error.isEmpty() ? record.fileName : record.fileName + QLatin1String("  ") + record.error);
+        else
+            task.answer.add(&record);
+    }
+    if (!isPlain)
+        task.answer.endList();
+    return true;
+}
+
 constexpr Command commands[] = {
     {"invoice list",
      TEXT("luettelo laskuista"),
@@ -56,6 +571,33 @@ constexpr Command commands[] = {
      {group(showWords)},
      "invoice show 1001\n"
      "invoice show @last --json"},
+    {"invoice add", TEXT("uusi lasku; seuraava numero ja viite"), add,
+     Command::writes | Command::adds | Command::keyed | Command::paints | Command::asks, &invoiceTable, &invoiceTable,
+     {group(addOptions)},
+     "invoice add aallotar --row \"S1 120\"\n"
+     "invoice add 10 --row \"T1 6,5 discount=10 text=Pitäjänkartta 1786\" --row \"- 1 name='Painotyö' price=80 "
+     "vatRate=25.5\""},
+    {"invoice edit", TEXT("muuttaa laskua; ilman kenttiä muokkaimessa riveineen"), edit, Command::writes, &invoiceTable,
+     &invoiceTable, {group(editWords)},
+     "invoice edit 1001 --due-date +14d\n"
+     "invoice edit 1001"},
+    {"invoice remove", TEXT("poistaa laskuja riveineen ja suorituksineen"), remove,
+     Command::writes | Command::destructive, nullptr, nullptr,
+     {group(Selection::invoiceWords), group(Selection::invoiceFilters), group(Selection::allOption)},
+     "invoice remove 1001 --yes"},
+    {"invoice copy", TEXT("uusi lasku samoin rivein"), copy,
+     Command::writes | Command::keyed | Command::paints, &invoiceTable, &invoiceTable, {group(copyWords)},
+     "invoice copy @last --date +7d"},
+    {"invoice credit", TEXT("hyvityslasku, joka viittaa alkuperäiseen"), credit,
+     Command::writes | Command::keyed | Command::paints, &invoiceTable, &invoiceTable, {group(creditWords)},
+     "invoice credit 1001\n"
+     "invoice credit 1001 --only 1,3"},
+    {"invoice export", TEXT("laskut tiedostoiksi: PDF, Finvoice tai CSV"), exportDocuments,
+     Command::paints | Command::eachOnly | Command::lists, &fileTable, nullptr,
+     {group(Selection::invoiceWords), group(Selection::invoiceFilters), group(exportOptions)},
+     "invoice export 1001\n"
+     "invoice export --overdue --as reminder -o 'muistutukset/$n-$i.pdf'\n"
+     "invoice export 1001 --format finvoice --soap"},
 };
 
 } // namespace

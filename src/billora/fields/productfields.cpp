@@ -3,6 +3,8 @@
 #include "records.h"
 #include "texts.h"
 
+#include <limits>
+
 namespace {
 
 using R = ProductRecord;
@@ -15,6 +17,9 @@ template <auto setPrice> bool price(void *record, const ValueReader &reader, con
     long long amount = 0;
     if (!reader.number(field.name, field.type, value, amount))
         return false;
+    // A price is read back through 32 bits: refuse what would come back as another one.
+    if (amount > std::numeric_limits<int>::max() || amount < std::numeric_limits<int>::min())
+        return reader.failValue(field.name, value, text(TEXT("luku on liian suuri")));
     (static_cast<Product *>(record)->*setPrice)(amount);
     return true;
 }

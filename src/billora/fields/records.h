@@ -59,6 +59,13 @@ struct InvoiceRecord {
     QVector<PaymentRecord> payments;
 };
 
+/** A file that an export wrote. */
+struct FileRecord {
+    QString fileName;
+    int invoiceNumber = -1; ///< -1: of none, or of all
+    QString error;          ///< null for none
+};
+
 /** The words of invoice types, in the order of Invoice::Type; null ends them. */
 extern const Choice invoiceTypes[];
 extern const Choice invoiceStates[];
@@ -70,5 +77,6 @@ extern const RecordTable paymentTable;
 extern const RecordTable rowTable;
 extern const RecordTable vatRateTable;
 extern const RecordTable invoiceTable;
+extern const RecordTable fileTable;
 
 #endif
