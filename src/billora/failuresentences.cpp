@@ -19,6 +19,13 @@ struct NoticeRow {
 
 constexpr FailureRow failures[] = {
     {Failure::database, Problem::database, nullptr, nullptr, "%1"},
+    {Failure::databaseLocked, Problem::locked, nullptr, nullptr, TEXT("toinen ohjelma varaa tietokantaa: %1")},
+    {Failure::databaseNumberTaken, Problem::exists, "number", "billora company list", TEXT("yrityksen numero on jo käytössä: %1")},
+    {Failure::databaseNumberUnknown, Problem::notFound, "company", "billora company list", TEXT("yritystä ei löytynyt: %1")},
+    {Failure::settingsFileUnwritable, Problem::file, nullptr, nullptr, TEXT("asetustiedostoa ei voi kirjoittaa: %1")},
+    {Failure::layoutNameTaken, Problem::exists, "name", "billora layout list", TEXT("laskupohjan nimi on jo käytössä: \"%1\"")},
+    {Failure::fileUnreadable, Problem::file, "file", nullptr, TEXT("tiedostoa %1 ei voi lukea: %2")},
+    {Failure::paymentFormatUnknown, Problem::badValue, "file", nullptr, TEXT("tiedostoa %1 ei voi lukea: %2")},
     {Failure::noDatabaseListed, Problem::noCompany, nullptr, "billora init", TEXT("yritystä ei ole vielä luotu")},
     {Failure::databaseMissing, Problem::noCompany, nullptr, "billora company list",
      TEXT("tietokantaa ei löytynyt: %1")},

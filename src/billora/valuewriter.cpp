@@ -179,6 +179,8 @@ QString ValueWriter::money(long long cents) { return grouped(plainDecimal(cents,
 
 QString ValueWriter::date(const QDate &date)
 {
+    if (!date.isValid())
+        return QStringLiteral("\u2013");
     if (Language::current() == Language::english)
         return date.toString(Qt::ISODate);
     return date.toString(QStringLiteral("d.M.yyyy"));

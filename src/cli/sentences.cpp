@@ -24,6 +24,7 @@ constexpr ExitCode badData = ExitCode::badData;
 
 constexpr FailureSentence failures[] = {
     {Failure::database, ExitCode::databaseFailure, "%1"},
+    {Failure::databaseLocked, ExitCode::databaseFailure, "%1"},
     // The exit code stays: a data command without any database answers nothing.
     {Failure::noDatabaseListed, ExitCode::success, TEXT("Tietokanta-asetuksia ei löytynyt")},
     {Failure::databaseMissing, ExitCode::databaseFailure, TEXT("Tietokantaa ei löytynyt: %1")},

@@ -33,6 +33,8 @@ public:
 
     void setCreateIfNotExist(bool create) { m_createIfNotExist = create; }
     bool isCreateIfNotExist() const { return m_createIfNotExist; }
+    /** Whether open() upgrades an older schema; it fails otherwise. */
+    void setUpgradeAllowed(bool isAllowed) { m_isUpgradeAllowed = isAllowed; }
 
     virtual bool driverAvailable() const = 0;
     /** @return whether the database existed before open() or was created by it */
@@ -67,6 +69,8 @@ public:
     /** Copies the database, consistent while others write, to a file that must not exist. SQLite only. */
     [[nodiscard]] virtual bool backupTo(const QString &filename);
 
+    /** Whether the text of a failure tells of another program's lock. */
+    virtual bool isLockError(const QString &reason) const = 0;
     /** The text of the last failure. */
     QString lastError() const;
 
@@ -97,6 +101,7 @@ protected:
     const QString m_connectionName;
     bool m_createIfNotExist = false;
     bool m_exists = false;
+    bool m_isUpgradeAllowed = true;
 
 private:
     QString m_lastError;

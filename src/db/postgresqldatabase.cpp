@@ -102,6 +102,10 @@ int PostgreSQLDatabase::upgrade()
     const int version = query.value(0).toInt();
     if (version < 1 || version >= schemaVersion)
         return version;
+    if (!m_isUpgradeAllowed) {
+        fail(tr("Tietokannan rakenne on vanha"));
+        return upgradeFailed;
+    }
     // One program at a time: two that run the same steps would write each other's version numbers.
     if (!query.exec(QStringLiteral("SELECT pg_advisory_lock(%1)").arg(writerLock)) ||
         !query.exec(QStringLiteral("SELECT version FROM settings")) || !query.next()) {
@@ -149,3 +153,5 @@ Query *PostgreSQLDatabase::query()
     statement.setForwardOnly(true);
     return new PostgreSQLQuery(statement, this);
 }
+
+bool PostgreSQLDatabase::isLockError(const QString &reason) const { return reason.contains(QLatin1String("lock timeout")); }

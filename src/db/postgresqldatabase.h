@@ -18,6 +18,7 @@ public:
     bool beginWriting() override;
     bool beginReading() override;
     Query *query() override;
+    bool isLockError(const QString &reason) const override;
 
 protected:
     bool isSQLite() const override { return false; }

@@ -112,6 +112,8 @@ bool SQLiteDatabase::upgrade(const QString &filename)
         return fail(tr("Tietokantaa %1 ei voi lukea: %2").arg(filename, lastError()));
     if (*version < 1 || *version >= schemaVersion)
         return true;
+    if (!m_isUpgradeAllowed)
+        return fail(tr("Tietokannan %1 rakenne on vanha").arg(filename));
     // One program at a time: two that run the same steps would write each other's version numbers. A lock of the
     // database itself would not outlive the copying of the file.
     QLockFile lock(filename + QLatin1String(".upgrade-lock"));
@@ -148,3 +150,5 @@ QString SQLiteDatabase::appendSuffixToFilename(const QString &name)
             return candidate;
     }
 }
+
+bool SQLiteDatabase::isLockError(const QString &reason) const { return reason.contains(QLatin1String("locked")); }

@@ -21,6 +21,7 @@ public:
     bool beginReading() override { return transaction(); }
     long long foreignChanges() override;
     bool backupTo(const QString &filename) override;
+    bool isLockError(const QString &reason) const override;
 
     /**
      * @return the name itself when no such file exists, else the first free name with "-1", "-2", … before the suffix

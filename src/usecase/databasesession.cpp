@@ -85,6 +85,11 @@ bool DatabaseSession::openDatabase(int number, bool onlyIfClosed)
 
 bool DatabaseSession::openFile(const QString &fileName)
 {
+    return openEntry({{QStringLiteral("filename"), QFileInfo(fileName).absoluteFilePath()}});
+}
+
+bool DatabaseSession::openEntry(const QVariantMap &entry)
+{
     closeDatabase();
     m_lostNumber.reset();
     // A backend reads the keys of a settings object; this one is never written anywhere.
@@ -92,7 +97,8 @@ bool DatabaseSession::openFile(const QString &fileName)
         QStringLiteral("unwritten"), [](QIODevice &, QSettings::SettingsMap &) { return true; },
         [](QIODevice &, const QSettings::SettingsMap &) { return true; });
     QSettings settings(QString(), unwritten);
-    settings.setValue(QStringLiteral("filename"), QFileInfo(fileName).absoluteFilePath());
+    for (auto it = entry.cbegin(); it != entry.cend(); ++it)
+        settings.setValue(it.key(), it.value());
     return openAt(&settings);
 }
 
@@ -108,13 +114,14 @@ bool DatabaseSession::openAt(QSettings *settings)
         m_listener.note(Notice::openingSqlite, {filename});
         m_database = std::make_unique<SQLiteDatabase>();
     }
-    m_database->setCreateIfNotExist(false);
+    m_database->setCreateIfNotExist(m_isCreating);
+    m_database->setUpgradeAllowed(!m_isTrial);
     const bool opened = m_database->open(settings);
     if (!opened || !m_database->exists()) {
         if (opened)
             m_listener.fail(Failure::databaseMissing, {filename});
         else
-            m_listener.fail(Failure::database, {m_database->lastError()});
+            failDatabase();
         closeDatabase();
         return false;
     }
@@ -185,14 +192,12 @@ void DatabaseSession::invalidateIfChanged()
     }
 }
 
-bool DatabaseSession::failQuery()
-{
-    m_isSuspect = true;
-    return m_listener.fail(Failure::database, {m_query->lastError()});
-}
+bool DatabaseSession::failQuery() { return failWith(m_query->lastError()); }
 
-bool DatabaseSession::failDatabase()
+bool DatabaseSession::failDatabase() { return failWith(m_database->lastError()); }
+
+bool DatabaseSession::failWith(const QString &reason)
 {
     m_isSuspect = true;
-    return m_listener.fail(Failure::database, {m_database->lastError()});
+    return m_listener.fail(m_database->isLockError(reason) ? Failure::databaseLocked : Failure::database, {reason});
 }

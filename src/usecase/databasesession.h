@@ -4,6 +4,7 @@
 #include "registry.h"
 
 #include <QSet>
+#include <QVariantMap>
 
 #include <memory>
 #include <optional>
@@ -34,6 +35,8 @@ public:
     [[nodiscard]] bool openDatabase(int number, bool onlyIfClosed);
     /** Opens an SQLite file that need not be on the list. @return false with the failure told */
     [[nodiscard]] bool openFile(const QString &fileName);
+    /** Opens the database of an entry of the list's form, see DatabaseList. @return as openFile() */
+    [[nodiscard]] bool openEntry(const QVariantMap &entry);
     /** What every data command does first. A server connection that was lost is made anew. */
     [[nodiscard]] bool ensureOpen();
     void closeDatabase();
@@ -59,6 +62,8 @@ public:
     /** Before a list is changed: what others have changed since it was read must not be overwritten. */
     void invalidateIfChanged();
 
+    /** Whether a database that is missing is made when it is opened. */
+    void setCreating(bool isCreating) { m_isCreating = isCreating; }
     /**
      * A trial: what is written is taken back in place of being committed, an older schema is refused in place of being
      * upgraded.
@@ -87,6 +92,7 @@ private:
 
     int findDatabaseIndex(int number) const;
     bool openAt(QSettings *settings);
+    bool failWith(const QString &reason);
 
     Registry &m_registry;
     UseCaseListener &m_listener;
@@ -96,6 +102,7 @@ private:
     int m_number = -1;        ///< what the open database was asked for by
     bool m_isSuspect = false; ///< a statement failed: the connection may be gone
     bool m_isTrial = false;
+    bool m_isCreating = false;
     bool m_isEnclosed = false;
     std::optional<int> m_lostNumber; ///< as m_number, of a database whose connection is gone
 };

@@ -10,6 +10,10 @@ namespace Failure {
 enum Code {
     // The database
     database,         ///< the reason in the database's own words
+    databaseLocked,   ///< the same: another program holds it
+    databaseNumberTaken,    ///< number in the list
+    databaseNumberUnknown,  ///< number in the list
+    settingsFileUnwritable, ///< file name
     noDatabaseListed, ///< no database is configured, or none of the wanted number
     databaseMissing,  ///< file name
 
@@ -36,6 +40,9 @@ enum Code {
     scriptUnreadable,
     scriptException, ///< text, line
     scriptWithoutFunction,
+    layoutNameTaken,  ///< name
+    fileUnreadable, ///< file name, reason
+    paymentFormatUnknown, ///< file name, reason
     fileUnwritable, ///< file name, reason
     fileExists,     ///< file name; never overwritten where this is told
 

@@ -9,6 +9,8 @@ enum class ImportResult { saved, alreadyImported, unmatched, ambiguous, error };
 
 /** A payment (or a damaged record) of a bank's file, and what became of it. */
 struct ImportedPayment {
+    QString fileName;
+    long long lineNumber = 0; ///< from 1
     QDate date;              ///< the bank's entry date
     int amount = 0;          ///< cents; negative for a correction or a payment out
     QString referenceNumber; ///< national form without leading zeros, empty for none

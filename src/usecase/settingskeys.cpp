@@ -147,6 +147,16 @@ QString SettingsKeys::value(const Settings &settings, const QString &key)
     return settings.property(key).toString();
 }
 
+QStringList SettingsKeys::allKeys()
+{
+    QStringList keys;
+    for (const SellerField &field : sellerFields)
+        keys.append(QLatin1String(field.key));
+    for (const PropertyKey &property : propertyKeys)
+        keys.append(QLatin1String(property.key));
+    return keys;
+}
+
 QStringList SettingsKeys::keysWithValue(const Settings &settings)
 {
     QStringList keys;

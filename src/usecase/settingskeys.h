@@ -20,6 +20,9 @@ bool store(Settings &settings, const QString &key, const QString &value);
 
 QString value(const Settings &settings, const QString &key);
 
+/** All keys that the program knows: the seller's fields, then the properties in ascending order. */
+QStringList allKeys();
+
 /** All keys that have a value: the seller's fields, then the properties in ascending order. */
 QStringList keysWithValue(const Settings &settings);
 

@@ -1,3 +1,3 @@
 #include "commandgroups.h"
 
-QVector<CommandGroup> commandGroups() { return {invoiceCommands(), customerCommands(), productCommands(), accountCommands(), paymentCommands(), programCommands()}; }
+QVector<CommandGroup> commandGroups() { return {wholeCompanyCommands(), invoiceCommands(), rowCommands(), customerCommands(), productCommands(), accountCommands(), paymentCommands(), reportCommands(), layoutCommands(), companyCommands(), settingsCommands(), programCommands()}; }

@@ -1,6 +1,7 @@
 #include "commandgroups.h"
 
 #include "customer.h"
+#include "importpayments.h"
 #include "paymentcriteria.h"
 #include "query.h"
 #include "recordediting.h"
@@ -206,6 +207,41 @@ bool remove(Task &task)
     return true;
 }
 
+constexpr Option importWords[] = {
+    {"file", ValueType::file, TEXT("pankin tiedostoja: tiliote, viitemaksut, CSV tai camt"), Option::plainWord | Option::required | Option::onlyWord | Option::list},
+};
+
+bool importFiles(Task &task)
+{
+    QVector<ImportedPayment> payments;
+    const QStringList files = task.arguments.texts("file");
+    for (const QString &file : files) {
+        if (!ImportPayments::readFile(task.context(), file, payments))
+            return false;
+    }
+    WriteTransaction transaction(task.context().session);
+    if (!transaction.hasBegun() || !ImportPayments::save(task.context(), payments) || !transaction.commit() ||
+        !task.answer.beginList(importTable, task.session))
+        return false;
+    int saved = 0, open = 0;
+    long long sum = 0;
+    for (const ImportedPayment &payment : qAsConst(payments)) {
+        task.answer.add(&payment);
+        if (payment.result == ImportResult::saved) {
+            ++saved;
+            sum += payment.amount;
+        } else if (payment.result != ImportResult::alreadyImported) {
+            ++open;
+        }
+        if (payment.result == ImportResult::error || payment.result == ImportResult::ambiguous)
+            task.exitCode = exitNeedsLook;
+    }
+    task.answer.endList();
+    if (task.answer.options().isTerminal && task.answer.wantsSentences())
+        task.answer.line(text(TEXT("Tallennettu %1 (%2), kohdistamatta %3.")).arg(QString::number(saved), ValueWriter::money(sum), QString::number(open)));
+    return true;
+}
+
 constexpr Command commands[] = {
     {"payment list", TEXT("luettelo suorituksista"), list, Command::lists, &paymentTable, nullptr,
      {group(listOptions), group(fullOption)},
@@ -220,6 +256,8 @@ constexpr Command commands[] = {
      {group(words), group(editOptions)}, "payment edit 1 --amount 120"},
     {"payment remove", TEXT("poistaa suorituksia; laskut avautuvat"), remove, Command::writes | Command::destructive,
      nullptr, nullptr, {group(removeWords)}, "payment remove 1 --yes"},
+    {"payment import", TEXT("suoritukset pankin tiedostoista, kukin kerran"), importFiles, Command::writes | Command::lists | Command::keyed,
+     &importTable, nullptr, {group(importWords)}, "payment import tiliote.xml"},
 };
 
 } // namespace

@@ -66,6 +66,31 @@ struct FileRecord {
     QString error;          ///< null for none
 };
 
+/** A database on the list of the settings file. */
+struct CompanyRecord {
+    int number = 0;
+    bool isPostgreSQL = false;
+    QString file, host, database; ///< null where they do not apply
+    bool isSelected = false;
+};
+
+struct SettingRecord {
+    QString key, value, description;
+    ValueType type = ValueType::text;
+};
+
+/** A stored layout, or a built-in one without an id. */
+struct LayoutRecord {
+    int id = -1;
+    QString type, name;
+    bool isSelected = false;
+};
+
+struct FindingRecord {
+    QString check, table, message;
+    int id = -1; ///< -1: about no single record
+};
+
 /** The words of invoice types, in the order of Invoice::Type; null ends them. */
 extern const Choice invoiceTypes[];
 extern const Choice invoiceStates[];
@@ -78,5 +103,10 @@ extern const RecordTable rowTable;
 extern const RecordTable vatRateTable;
 extern const RecordTable invoiceTable;
 extern const RecordTable fileTable;
+extern const RecordTable companyTable;
+extern const RecordTable settingTable;
+extern const RecordTable layoutTable;
+extern const RecordTable findingTable;
+extern const RecordTable importTable;
 
 #endif
