@@ -25,6 +25,7 @@ struct AnswerOptions {
     QStringList fields; ///< the ones asked for, empty for the usual ones
     bool full = false;  ///< all fields in a list, too
     bool isDryRun = false;
+    QString key; ///< of a repeatable request that is a batch
 };
 
 /**

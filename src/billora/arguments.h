@@ -26,12 +26,23 @@ public:
         m_values[name].append(value.isNull() ? QStringLiteral("") : value);
     }
     void remove(const char *name) { m_values.remove(QLatin1String(name)); }
+    /** Lets a function change every text, those of the rows too. */
+    template <class Change> void replace(Change change)
+    {
+        for (QStringList &texts : m_values) {
+            for (QString &text : texts)
+                change(text);
+        }
+        for (Arguments &row : rows)
+            row.replace(change);
+    }
     QStringList names() const { return m_values.keys(); }
     bool isEmpty() const { return m_values.isEmpty() && rows.isEmpty(); }
 
     /** The rows of an invoice, each with the fields of a row and `product`. */
     QVector<Arguments> rows;
     bool hasRows = false; ///< the rows were given, perhaps none
+    QStringList booleans; ///< names that were given as true or false of JSON
     QStringList nulls;    ///< names that were given as null: their texts are empty
 
 private:

@@ -86,6 +86,16 @@ const Command *CommandTable::find(const QString &name)
     return nullptr;
 }
 
+QStringList CommandTable::names()
+{
+    QStringList names;
+    for (const CommandGroup &group : groups()) {
+        for (const Command &command : group)
+            names.append(QLatin1String(command.name));
+    }
+    return names;
+}
+
 QStringList CommandTable::nouns()
 {
     QStringList nouns;

@@ -13,6 +13,8 @@ namespace CommandTable {
 const QVector<CommandGroup> &groups();
 /** @return null when there is none of the name, "invoice add" */
 const Command *find(const QString &name);
+/** The names of all commands. */
+QStringList names();
 /** The nouns, each once; a plain word is none. */
 QStringList nouns();
 /** What a noun is about, Finnish; null for a word that is none. */

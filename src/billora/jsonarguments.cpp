@@ -47,6 +47,7 @@ bool takeMember(const ValueReader &reader, const QString &name, const Json &valu
         arguments.add(name, textOf(value));
     } else if (value.IsBool()) {
         arguments.add(name, value.GetBool() ? QStringLiteral("true") : QStringLiteral("false"));
+        arguments.booleans.append(name);
     } else if (value.IsNull()) {
         arguments.add(name, QString());
         arguments.nulls.append(name);

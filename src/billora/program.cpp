@@ -3,6 +3,7 @@
 #include "commandtable.h"
 #include "helptext.h"
 #include "language.h"
+#include "runner.h"
 #include "terminal.h"
 #include "texts.h"
 #include "valuewriter.h"
@@ -71,6 +72,8 @@ bool Program::readGlobals(const CommandLine &line)
         if (option.type == ValueType::word && !reader.word(name, option.choices, global.text(name), word))
             return false;
     }
+    m_key = global.text("key");
+    m_options.key = m_key;
     m_options.quiet = isGiven(global, "quiet");
     if (m_options.quiet && m_options.form != OutputForm::text) {
         Problem problem;
@@ -149,30 +152,15 @@ int Program::run(const QStringList &words)
 int Program::execute(const Command &command, const Arguments &arguments)
 {
     Answer answer(m_options, writeOutput);
-    Task task(m_session, command, arguments, answer, m_manners);
-    const ValueReader reader(m_session, QDate::currentDate());
-    const QVector<const Option *> options = CommandTable::options(command);
-    for (const Option *option : options) {
-        const QString name = QLatin1String(option->name);
-        bool isTrue = false;
-        if (option->type == ValueType::flag && !(command.edits && command.edits->find(name)) && arguments.has(name) &&
-            !reader.flag(name, arguments.text(name), isTrue))
-            return report(m_session.problem());
-    }
-    if (!m_manners.isInteractive || !command.is(Command::asks)) {
-        const Problem missing = OptionParser::missing(command, arguments);
-        if (missing.isSet())
-            return report(missing);
-    }
-    const bool done = (command.is(Command::noCompany) || m_session.open()) && command.run(task);
-    if (!done) {
+    Runner runner(m_session);
+    int exitCode = 0;
+    const bool done = runner.run(command, arguments, answer, m_manners,
+                                 QLatin1String(command.name) == QLatin1String("batch") ? QString() : m_key, exitCode);
+    if (!done)
         answer.take();
-        m_session.context().session.closeDatabase();
-        return report(m_session.problem());
-    }
     answer.flush();
     m_session.context().session.closeDatabase();
-    return task.exitCode;
+    return done ? exitCode : report(m_session.problem());
 }
 
 int Program::report(const Problem &problem) const

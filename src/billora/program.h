@@ -28,6 +28,7 @@ private:
     Session m_session;
     AnswerOptions m_options;
     Manners m_manners;
+    QString m_key;
 };
 
 #endif

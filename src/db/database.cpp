@@ -1,6 +1,7 @@
 #include "database.h"
 
 #include "databasecheck.h"
+#include "keytable.h"
 #include "query.h"
 #include "schemaupgrade.h"
 
@@ -126,6 +127,8 @@ bool Database::isAddedColumn(const QString &sql) const
     const QRegularExpressionMatch match = addition.match(sql);
     return match.hasMatch() && connection(false).record(match.captured(1)).contains(match.captured(2));
 }
+
+KeyTable Database::keys() const { return KeyTable(connection(false)); }
 
 DatabaseCheck Database::check() const { return DatabaseCheck(connection(false), isSQLite()); }
 

@@ -6,6 +6,7 @@
 #include <QStringList>
 
 class DatabaseCheck;
+class KeyTable;
 class Query;
 class QSettings;
 class QSqlDatabase;
@@ -58,6 +59,8 @@ public:
      */
     virtual long long foreignChanges() { return -1; }
 
+    /** The keys of requests, on this connection. */
+    KeyTable keys() const;
     /** A look at file, schema and books, on this connection. */
     DatabaseCheck check() const;
     /**

@@ -8,6 +8,7 @@ struct LastSavedIds {
     int invoice = 0;
     int invoiceItem = 0;
     int product = 0;
+    int payment = 0;
 };
 
 #endif

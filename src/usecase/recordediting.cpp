@@ -110,6 +110,7 @@ Outcome RecordEditing::savePayment(UseCaseContext &context, Payment &payment, in
         context.session.failQuery();
         return Outcome::tooLarge;
     }
+    context.lastSaved.payment = payment.id;
     return InvoiceTotals::updateInvoices(context, payment.invoiceId, earlierInvoiceId);
 }
 

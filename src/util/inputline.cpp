@@ -38,6 +38,18 @@ InputLine::InputLine(int descriptor) : m_descriptor(descriptor) {}
 
 bool InputLine::read(QString &line)
 {
+    QByteArray bytes;
+    const bool isFirst = m_isFirst;
+    if (!readBytes(bytes))
+        return false;
+    line = LocaleText::decode(bytes.constData(), bytes.size());
+    if (isFirst && line.startsWith(QChar(QChar::ByteOrderMark)))
+        line.remove(0, 1); // of a file that an editor saved with its mark
+    return true;
+}
+
+bool InputLine::readBytes(QByteArray &line)
+{
     int searchFrom = m_position;
     for (;;) {
         int end = m_buffer.indexOf('\n', searchFrom);
@@ -50,11 +62,9 @@ bool InputLine::read(QString &line)
             int length = end - m_position;
             if (length > 0 && m_buffer.at(m_position + length - 1) == '\r')
                 --length;
-            line = LocaleText::decode(m_buffer.constData() + m_position, length);
-            if (m_isFirst && line.startsWith(QChar(QChar::ByteOrderMark)))
-                line.remove(0, 1); // of a file that an editor saved with its mark
-            m_isFirst = false;
+            line = m_buffer.mid(m_position, length);
             m_position = end + 1;
+            m_isFirst = false;
             return true;
         }
         m_buffer.remove(0, m_position);

@@ -20,6 +20,9 @@ public:
      */
     bool read(QString &line);
 
+    /** The same, undecoded. @param line  unchanged at the end of the input */
+    bool readBytes(QByteArray &line);
+
     /**
      * Splits a command line into words. Unquoted white space ends a word (two in a row make an empty one), double
      * quotes keep white space, a backslash escapes `"`, `\`, `n`, `r` and `t`. After an escaped letter the escape stays

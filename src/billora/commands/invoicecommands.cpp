@@ -250,7 +250,7 @@ bool change(Task &task, const QString &word, const Arguments &given, const Invoi
 bool edit(Task &task)
 {
     const QString word = task.arguments.text("invoice");
-    if (task.arguments.has("customer") || RecordFields::hasAny(invoiceTable, task.arguments))
+    if (task.arguments.has("customer") || task.arguments.hasRows || RecordFields::hasAny(invoiceTable, task.arguments))
         return change(task, word, task.arguments, nullptr);
     if (!task.manners.isInteractive)
         return task.fail(Problem::missingOption, text(TEXT("mitä muutetaan? Anna kenttiä valintoina")));

@@ -1,9 +1,13 @@
 #include "commandgroups.h"
 
+#include "batch.h"
 #include "helptext.h"
 #include "suggestions.h"
 #include "task.h"
+#include "terminal.h"
 #include "texts.h"
+
+#include <unistd.h>
 
 namespace {
 
@@ -27,7 +31,30 @@ bool help(Task &task)
     return task.fail(problem);
 }
 
+constexpr Option batchOptions[] = {
+    {"each", ValueType::flag, TEXT("oma tapahtuma joka riville; virheen jälkeen jatketaan")},
+};
+
+bool batch(Task &task)
+{
+    if (Terminal::isInput())
+        return task.fail(Problem::missingOption, text(TEXT("komennot luetaan vakiosyötteestä, yksi JSON-olio rivillä")));
+    Batch::Options options;
+    options.isEach = task.flag("each");
+    options.manners = task.manners;
+    options.key = task.answer.options().key;
+    Batch batch(task.session, options, [](const QByteArray &line) { return Terminal::write(STDOUT_FILENO, line); });
+    const int code = batch.run();
+    if (code < 0)
+        return false;
+    task.exitCode = code;
+    return true;
+}
+
 constexpr Command commands[] = {
+    {"batch", TEXT("komennot JSON-riveinä vakiosyötteestä, yhtenä tapahtumana"), batch,
+     Command::writes | Command::noCompany | Command::single | Command::paints, nullptr, nullptr, {group(batchOptions)},
+     "batch --each"},
     {"help",
      TEXT("ohje komennosta tai aiheesta"),
      help,
