@@ -259,8 +259,13 @@ QString HelpText::of(const QString &topic)
     if (topic == QLatin1String("exit-codes"))
         return exitCodeHelp();
     for (const auto &row : topicRows) {
-        if (topic == QLatin1String(row.name))
-            return text(row.title) + QStringLiteral("\n\n") + text(row.text) + QLatin1Char('\n');
+        if (topic != QLatin1String(row.name))
+            continue;
+        QString help = text(row.title) + QStringLiteral("\n\n");
+        const QStringList lines = text(row.text).split(QLatin1Char('\n'));
+        for (const QString &line : lines)
+            help += wrapped(line, 2, 0);
+        return help;
     }
     if (const Command *command = CommandTable::find(topic))
         return commandHelp(*command);

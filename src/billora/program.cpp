@@ -1,6 +1,7 @@
 #include "program.h"
 
 #include "commandtable.h"
+#include "completer.h"
 #include "helptext.h"
 #include "language.h"
 #include "runner.h"
@@ -110,6 +111,8 @@ bool Program::paints(const QStringList &words)
 
 int Program::run(const QStringList &words)
 {
+    if (!words.isEmpty() && words.first() == QLatin1String("__complete"))
+        return complete(words.mid(1));
     CommandLine line = OptionParser::parse(words);
     QString settingsFile = line.global.text("config");
     if (settingsFile.isEmpty())
@@ -147,6 +150,22 @@ int Program::run(const QStringList &words)
         return 1;
     }
     return execute(*line.command, line.arguments);
+}
+
+/** Answers a shell: whatever is wrong, it is only that nothing is known. */
+int Program::complete(QStringList words)
+{
+    if (!words.isEmpty() && words.first() == QLatin1String("--"))
+        words.removeFirst();
+    const CommandLine line = OptionParser::parse(words.mid(0, std::max(0, words.size() - 1)));
+    const auto chosen = [&line](const char *option, const char *variable) {
+        const QString given = line.global.text(option);
+        return given.isEmpty() ? qEnvironmentVariable(variable) : given;
+    };
+    m_session.choose(chosen("config", "BILLORA_CONFIG"), chosen("db", "BILLORA_DB"));
+    chooseLanguage(line.global);
+    print(Completer::complete(m_session, words).join(QLatin1Char('\n')) + QLatin1Char('\n'));
+    return 0;
 }
 
 int Program::execute(const Command &command, const Arguments &arguments)

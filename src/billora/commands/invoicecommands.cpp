@@ -575,8 +575,8 @@ constexpr Command commands[] = {
      Command::writes | Command::adds | Command::keyed | Command::paints | Command::asks, &invoiceTable, &invoiceTable,
      {group(addOptions)},
      "invoice add aallotar --row \"S1 120\"\n"
-     "invoice add 10 --row \"T1 6,5 discount=10 text=Pitäjänkartta 1786\" --row \"- 1 name='Painotyö' price=80 "
-     "vatRate=25.5\""},
+     "invoice add 10 --row \"T1 6,5 discount=10 text=Pitäjänkartta 1786\"\n"
+     "invoice add 10 --row \"- 1 name='Painotyö' price=80 vatRate=25.5\""},
     {"invoice edit", TEXT("muuttaa laskua; ilman kenttiä muokkaimessa riveineen"), edit, Command::writes, &invoiceTable,
      &invoiceTable, {group(editWords)},
      "invoice edit 1001 --due-date +14d\n"
