@@ -90,6 +90,25 @@ struct Kind {
                                      QStringLiteral("number"), QString::number(customer.number));
     }
 
+    static bool findKnown(Task &task, const Arguments &fields, Customer &customer, bool &isKnown)
+    {
+        int number = 0;
+        if (!fields.has("number"))
+            return true;
+        if (!task.reader.number(QStringLiteral("number"), ValueType::integer, fields.text("number"), number))
+            return false;
+        Query *query = task.context().session.query();
+        const auto take = [&] {
+            Customer other;
+            query->customer(&other);
+            if (!other.deleted) {
+                customer = other;
+                isKnown = true;
+            }
+        };
+        return (query->fetchCustomersByNumber(number) && query->readAll(take)) || task.context().session.failQuery();
+    }
+
     static QString nextStep(const Customer &customer)
     {
         return QStringLiteral("billora invoice add %1 --row \"...\"").arg(customer.number);
@@ -140,6 +159,9 @@ constexpr Command commands[] = {
     {"customer remove", TEXT("poistaa asiakkaita; laskut jäävät"), RecordCommands::remove<Kind>,
      Command::writes | Command::destructive, nullptr, nullptr, {group(removeWords)},
      "customer remove 10 --yes"},
+    {"customer import", TEXT("asiakkaat CSV-tiedostosta, kaikki tai ei mitään"), RecordCommands::importFile<Kind>,
+     Command::writes | Command::keyed, nullptr, nullptr, {group(importWords)},
+     "customer import asiakkaat.csv --map \"Y-tunnus=vatNumber\""},
 };
 
 } // namespace

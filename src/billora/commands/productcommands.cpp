@@ -50,7 +50,8 @@ struct Kind {
     static bool check(Task &task, const Product &product, const Product *earlier)
     {
         const bool hasPrice = task.arguments.has("price") || task.arguments.has("priceWithVat");
-        if (!earlier && !hasPrice)
+        const bool isImport = task.arguments.has("file");
+        if (!earlier && !hasPrice && !isImport)
             return task.fail(Problem::missingOption, text(TEXT("valinta --price tai --price-with-vat puuttuu")),
                              QStringLiteral("price"));
         if (earlier && earlier->number == product.number)
@@ -63,6 +64,17 @@ struct Kind {
             return task.context().session.failQuery();
         return !isTaken || task.fail(Problem::exists, text(TEXT("tuotenumero on jo käytössä: %1")).arg(product.number),
                                      QStringLiteral("number"), product.number);
+    }
+
+    static bool findKnown(Task &task, const Arguments &fields, Product &product, bool &isKnown)
+    {
+        Query *query = task.context().session.query();
+        const auto take = [&] {
+            query->product(&product);
+            isKnown = true;
+        };
+        return (query->fetchProductsByNumber(fields.text("number")) && query->readAll(take)) ||
+               task.context().session.failQuery();
     }
 
     static QString nextStep(const Product &) { return QString(); }
@@ -86,6 +98,8 @@ constexpr Command commands[] = {
      Command::writes, &productTable, &productTable, {group(words)}, "product edit S1 --price 15,20"},
     {"product remove", TEXT("poistaa tuotteita; laskujen rivit jäävät"), RecordCommands::remove<Kind>,
      Command::writes | Command::destructive, nullptr, nullptr, {group(removeWords)}, "product remove S1 --yes"},
+    {"product import", TEXT("tuotteet CSV-tiedostosta, kaikki tai ei mitään"), RecordCommands::importFile<Kind>,
+     Command::writes | Command::keyed, nullptr, nullptr, {group(importWords)}, "product import tuotteet.csv --update"},
 };
 
 } // namespace

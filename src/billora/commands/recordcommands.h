@@ -1,6 +1,7 @@
 #ifndef RECORDCOMMANDS_H
 #define RECORDCOMMANDS_H
 
+#include "csvimport.h"
 #include "editorfile.h"
 #include "jsonwriter.h"
 #include "recordediting.h"
@@ -80,6 +81,17 @@ bool change(Task &task, const QString &word, const Arguments &given, const typen
            answer<Kind>(task, record, Kind::changed);
 }
 
+/** A new record needs its required fields. */
+template <class Kind> bool checkRequired(Task &task, const Arguments &given, bool isKnown)
+{
+    for (const Field &field : Kind::table) {
+        if (!isKnown && field.is(Field::required) && !given.has(field.name))
+            return task.fail(Problem::missingOption, text(TEXT("kenttä puuttuu: %1")).arg(QLatin1String(field.name)),
+                             QLatin1String(field.name));
+    }
+    return true;
+}
+
 template <class Kind> bool edit(Task &task)
 {
     const QString word = task.arguments.text(Kind::word);
@@ -132,6 +144,75 @@ template <class Kind> bool remove(Task &task)
     if (!transaction.commit())
         return false;
     task.answer.removed(handles);
+    return true;
+}
+
+/**
+ * Adds and, with `update`, changes the records of a CSV file: all or nothing.
+ * Kind::findKnown(task, fields, stored, isKnown) looks up the stored record with the line's number.
+ */
+template <class Kind> bool importFile(Task &task)
+{
+    constexpr int mostProblems = 20;
+    QVector<CsvImport::Line> lines;
+    if (!CsvImport::read(task, Kind::table, task.arguments.text("file"), lines))
+        return false;
+    const bool updates = task.flag("update");
+    WriteTransaction transaction(task.context().session);
+    if (!transaction.hasBegun())
+        return false;
+    int added = 0, updated = 0, unchanged = 0;
+    QStringList wrong;
+    Problem first;
+    for (const CsvImport::Line &line : qAsConst(lines)) {
+        typename Kind::Record record;
+        auto &stored = record.*Kind::part;
+        bool isKnown = false;
+        bool done = Kind::findKnown(task, line.fields, stored, isKnown);
+        if (done && isKnown && !updates)
+            done = task.fail(Problem::exists, text(TEXT("numero on jo käytössä: %1")).arg(handle<Kind>(record)),
+                             QStringLiteral("number"), handle<Kind>(record));
+        const auto earlier = stored;
+        const auto json = [](const typename Kind::Record &shown) {
+            QByteArray bytes;
+            JsonWriter(bytes).record(Kind::table, &shown);
+            return bytes;
+        };
+        const QByteArray before = json(record);
+        done = done && checkRequired<Kind>(task, line.fields, isKnown) &&
+               RecordFields::apply(task.reader, Kind::table, line.fields, &stored) &&
+               Kind::check(task, stored, isKnown ? &earlier : nullptr);
+        const bool isSame = isKnown && json(record) == before;
+        done = done && (isSame || RecordEditing::save(task.context(), stored));
+        if (done) {
+            ++(isSame ? unchanged : isKnown ? updated : added);
+            continue;
+        }
+        const Problem problem = task.session.problem();
+        if (problem.exitCode() == 2 || problem.exitCode() == 5)
+            return false;
+        if (!first.isSet())
+            first = problem;
+        if (wrong.size() < mostProblems)
+            wrong.append(text(TEXT("rivi %1: %2")).arg(QString::number(line.number), problem.message));
+        task.session.clearProblem();
+    }
+    if (!wrong.isEmpty()) {
+        first.message = wrong.join(QLatin1String("\n  "));
+        return task.fail(first);
+    }
+    if (updated > 0 && !task.confirm(text(TEXT("Muutetaanko %1 tietuetta?")).arg(updated), updated, false))
+        return false;
+    if (!transaction.commit())
+        return false;
+    task.answer.object(
+        [&](JsonWriter &json) {
+            json.member("added", added);
+            json.member("updated", updated);
+            json.member("unchanged", unchanged);
+        },
+        text(TEXT("Lisätty %1, muutettu %2, ennallaan %3"))
+            .arg(QString::number(added), QString::number(updated), QString::number(unchanged)));
     return true;
 }
 
