@@ -400,7 +400,7 @@ bool credit(Task &task)
         return false;
     Invoice &invoice = editor.invoice();
     invoice.type = Invoice::creditNote;
-    invoice.buyerRef = text(TEXT("Lasku %1")).arg(stored.number);
+    invoice.buyerRef = QStringLiteral("Lasku %1").arg(stored.number); // of the document, not of the program
     invoice.setProperty(QStringLiteral("bt25"), QString::number(stored.number));
     invoice.setProperty(QStringLiteral("bt26"), stored.date.toString(Qt::ISODate));
     Arguments given = task.arguments;

@@ -160,7 +160,7 @@ bool ask(Task &task, Arguments &given)
         if (preset.isEmpty() && option == QLatin1String("file"))
             preset = defaultFile(answers.at(0));
         if (preset.isEmpty() && option == QLatin1String("paymentTerms"))
-            preset = text(TEXT("14 pv netto"));
+            preset = QStringLiteral("14 pv netto");
         QString answer;
         const Prompt::Outcome outcome = Prompt::ask(text(questions[open.at(i)].question), preset, answer);
         if (outcome == Prompt::ended)
