@@ -1532,8 +1532,8 @@ Overdue %4 invoices, %5</translation>
         <translation>Customer id</translation>
     </message>
     <message>
-        <source>Asiakkaan nimi</source>
-        <translation>Customer's name</translation>
+        <source>As.nro</source>
+        <translation>Cust. no</translation>
     </message>
     <message>
         <source>viitenumero; # lopussa on tarkiste</source>

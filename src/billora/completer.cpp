@@ -1,5 +1,6 @@
 #include "completer.h"
 
+#include "bankaccount.h"
 #include "commandtable.h"
 #include "customer.h"
 #include "integer.h"
@@ -8,7 +9,6 @@
 #include "layouts.h"
 #include "optionparser.h"
 #include "product.h"
-#include "bankaccount.h"
 #include "query.h"
 #include "session.h"
 #include "settingtexts.h"
@@ -115,7 +115,8 @@ void values(Session &session, const Option &option, const Command &command, cons
         return;
     }
     if (option.type == ValueType::fields) {
-        const QString before = word.contains(QLatin1Char(',')) ? word.left(word.lastIndexOf(QLatin1Char(',')) + 1) : QString();
+        const QString before =
+            word.contains(QLatin1Char(',')) ? word.left(word.lastIndexOf(QLatin1Char(',')) + 1) : QString();
         if (command.result) {
             for (const Field &field : *command.result)
                 found.add(word, before + QLatin1String(field.name), text(field.heading));
@@ -126,7 +127,8 @@ void values(Session &session, const Option &option, const Command &command, cons
         const QStringList keys = SettingTexts::keys();
         for (const QString &key : keys) {
             const QString name = key.section(QLatin1Char('/'), -1);
-            found.add(word, word.contains(QLatin1Char('/')) || keys.filter(QLatin1Char('/') + name).size() != 1 ? key : name,
+            found.add(word,
+                      word.contains(QLatin1Char('/')) || keys.filter(QLatin1Char('/') + name).size() != 1 ? key : name,
                       SettingTexts::description(key));
         }
         return;
@@ -162,7 +164,8 @@ void options(const Command *command, const Arguments &given, const Arguments &gl
 {
     const auto offer = [&](const Option &option, const Arguments &taken) {
         if (!option.is(Option::onlyWord) && (option.is(Option::list) || !taken.has(option.name)))
-            found.add(word, QLatin1String("--") + CommandTable::hyphenated(QLatin1String(option.name)), text(option.description));
+            found.add(word, QLatin1String("--") + CommandTable::hyphenated(QLatin1String(option.name)),
+                      text(option.description));
     };
     if (command) {
         const QVector<const Option *> own = CommandTable::options(*command);
@@ -179,7 +182,8 @@ Found search(Session &session, const QStringList &words)
     const QString word = words.isEmpty() ? QString() : words.last();
     const QStringList before = words.mid(0, std::max(0, words.size() - 1));
     // The value of an option that stands in front of the cursor.
-    if (!before.isEmpty() && before.last().startsWith(QLatin1String("--")) && !before.last().contains(QLatin1Char('='))) {
+    if (!before.isEmpty() && before.last().startsWith(QLatin1String("--")) &&
+        !before.last().contains(QLatin1Char('='))) {
         const CommandLine line = OptionParser::parse(before.mid(0, before.size() - 1));
         const Option *option = CommandTable::findOption(line.command, CommandTable::camelCase(before.last().mid(2)));
         if (option && option->type != ValueType::flag && line.command) {

@@ -48,8 +48,8 @@ QVector<CsvLine> parse(const QString &text, QChar delimiter)
     const auto endLine = [&] {
         line.cells.append(cell);
         cell.clear();
-        const bool isEmpty = std::all_of(line.cells.begin(), line.cells.end(),
-                                         [](const QString &c) { return c.trimmed().isEmpty(); });
+        const bool isEmpty =
+            std::all_of(line.cells.begin(), line.cells.end(), [](const QString &c) { return c.trimmed().isEmpty(); });
         if (!isEmpty)
             lines.append(line);
         line = {number, {}};
@@ -124,7 +124,8 @@ bool CsvImport::read(Task &task, const RecordTable &table, const QString &fileNa
     if (!readMap(task, table, map))
         return false;
     if (read.isEmpty())
-        return task.fail(Problem::badValue, text(TEXT("tiedostossa ei ole otsikkoriviä")), QStringLiteral("file"), fileName);
+        return task.fail(Problem::badValue, text(TEXT("tiedostossa ei ole otsikkoriviä")), QStringLiteral("file"),
+                         fileName);
     QStringList names;
     QStringList known;
     for (const Field &field : table) {
@@ -148,7 +149,8 @@ bool CsvImport::read(Task &task, const RecordTable &table, const QString &fileNa
         }
         const QString name = field ? QString::fromLatin1(field->name) : QString();
         if (field && names.contains(name))
-            return task.fail(Problem::conflict, text(TEXT("kenttä on kahdesti: %1")).arg(name), QStringLiteral("file"), title);
+            return task.fail(Problem::conflict, text(TEXT("kenttä on kahdesti: %1")).arg(name), QStringLiteral("file"),
+                             title);
         names.append(name);
     }
     for (int i = 1; i < read.size(); ++i) {

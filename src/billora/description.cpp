@@ -10,17 +10,17 @@
 
 namespace {
 
-const RecordTable *const tables[] = {&invoiceTable, &rowTable,    &vatRateTable, &customerTable, &productTable,
+const RecordTable *const tables[] = {&invoiceTable, &rowTable,     &vatRateTable, &customerTable, &productTable,
                                      &accountTable, &paymentTable, &companyTable, &settingTable,  &layoutTable,
-                                     &findingTable, &importTable, &fileTable};
+                                     &findingTable, &importTable,  &fileTable};
 
-bool isWhole(ValueType type) { return type == ValueType::integer || type == ValueType::id || type == ValueType::position; }
+bool isWhole(ValueType type)
+{
+    return type == ValueType::integer || type == ValueType::id || type == ValueType::position;
+}
 
 /** What a field may be besides its type: not set. */
-bool mayBeNull(const Field &field)
-{
-    return field.type != ValueType::records && field.type != ValueType::flag;
-}
+bool mayBeNull(const Field &field) { return field.type != ValueType::records && field.type != ValueType::flag; }
 
 void writeChoices(JsonWriter &json, const Choice *choices, bool withNull)
 {
@@ -124,7 +124,8 @@ void writeOption(JsonWriter &json, const Command &command, const Option &option)
     json.beginObject();
     const QString name = QLatin1String(option.name);
     json.member("name", name);
-    json.member("option", option.is(Option::onlyWord) ? QString() : QLatin1String("--") + CommandTable::hyphenated(name));
+    json.member("option",
+                option.is(Option::onlyWord) ? QString() : QLatin1String("--") + CommandTable::hyphenated(name));
     json.member("field", field ? name : QString());
     json.member("type", valueTypeName(option.type));
     json.member("required", option.is(Option::required));

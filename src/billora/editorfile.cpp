@@ -125,7 +125,8 @@ bool EditorFile::edit(Task &task, const RecordTable &table, const void *record, 
         QStringList shown;
         if (!reason.isEmpty())
             shown.append(QLatin1String("# ") + reason);
-        shown.append(QLatin1String("# ") + text(TEXT("Tallenna ja sulje; tyhjä tai muuttamaton tiedosto ei muuta mitään.")));
+        shown.append(QLatin1String("# ") +
+                     text(TEXT("Tallenna ja sulje; tyhjä tai muuttamaton tiedosto ei muuta mitään.")));
         if (rows)
             shown.append(QLatin1String("# ") + text(TEXT("Rivit: row: TUOTE [MÄÄRÄ] [KENTTÄ=ARVO]… text=teksti")));
         QFile file(fileName);

@@ -11,8 +11,8 @@
 class Task;
 
 /**
- * A record as a text in the person's own editor ($VISUAL, $EDITOR): `field: value` lines, `row:` lines in the grammar of
- * RowWords, `#` remarks. LF within a value is written as \n.
+ * A record as a text in the person's own editor ($VISUAL, $EDITOR): `field: value` lines, `row:` lines in the grammar
+ * of RowWords, `#` remarks. LF within a value is written as \n.
  */
 namespace EditorFile {
 

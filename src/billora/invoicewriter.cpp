@@ -150,8 +150,9 @@ QStringList InvoiceWriter::rowLines(const InvoiceRecord &record)
                 line += QLatin1Char(' ') + QLatin1String(name) + QLatin1Char('=') + quoted(value);
         }
         if (!row.item.text.isEmpty())
-            line += QLatin1String(" text=") +
-                    QString(row.item.text).replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('\n'), QLatin1String("\\n"));
+            line += QLatin1String(" text=") + QString(row.item.text)
+                                                  .replace(QLatin1Char('\\'), QLatin1String("\\\\"))
+                                                  .replace(QLatin1Char('\n'), QLatin1String("\\n"));
         lines.append(line);
     }
     return lines;

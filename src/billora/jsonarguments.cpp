@@ -12,8 +12,8 @@ namespace {
 using Json = rapidjson::GenericValue<rapidjson::UTF8<>>;
 
 /** Deeper than this is no request, and would take the stack. */
-constexpr unsigned parseFlags = rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseValidateEncodingFlag |
-                                rapidjson::kParseIterativeFlag;
+constexpr unsigned parseFlags =
+    rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseValidateEncodingFlag | rapidjson::kParseIterativeFlag;
 
 bool failJson(const ValueReader &reader, const QString &reason)
 {
@@ -23,7 +23,10 @@ bool failJson(const ValueReader &reader, const QString &reason)
     return reader.fail(problem);
 }
 
-QString textOf(const Json &value) { return QString::fromUtf8(value.GetString(), static_cast<int>(value.GetStringLength())); }
+QString textOf(const Json &value)
+{
+    return QString::fromUtf8(value.GetString(), static_cast<int>(value.GetStringLength()));
+}
 
 bool parse(const ValueReader &reader, const QByteArray &json, rapidjson::Document &document)
 {

@@ -18,18 +18,24 @@ QString escaped(QString text)
     return text.startsWith(QLatin1Char('.')) ? QLatin1String("\\&") + text : text;
 }
 
-QString section(const char *title) { return QLatin1String(".SH \"") + escaped(text(title).toUpper()) + QLatin1String("\"\n"); }
+QString section(const char *title)
+{
+    return QLatin1String(".SH \"") + escaped(text(title).toUpper()) + QLatin1String("\"\n");
+}
 
 QString head(const QString &name, const QString &summary)
 {
-    return QLatin1String(".TH ") + escaped(name.toUpper()) + QLatin1String(" 1 \"\" \"billora " BILLORA_VERSION "\" \"Billora\"\n") +
-           section(TEXT("Nimi")) + escaped(name) + QLatin1String(" \\- ") + escaped(summary) + QLatin1Char('\n');
+    return QLatin1String(".TH ") + escaped(name.toUpper()) +
+           QLatin1String(" 1 \"\" \"billora " BILLORA_VERSION "\" \"Billora\"\n") + section(TEXT("Nimi")) +
+           escaped(name) + QLatin1String(" \\- ") + escaped(summary) + QLatin1Char('\n');
 }
 
 QString optionEntry(const Option &option)
 {
-    QString term = option.letter ? QLatin1String("\\fB\\-") + QLatin1Char(option.letter) + QLatin1String("\\fR, ") : QString();
-    term += QLatin1String("\\fB\\-\\-") + escaped(CommandTable::hyphenated(QLatin1String(option.name))) + QLatin1String("\\fR");
+    QString term =
+        option.letter ? QLatin1String("\\fB\\-") + QLatin1Char(option.letter) + QLatin1String("\\fR, ") : QString();
+    term += QLatin1String("\\fB\\-\\-") + escaped(CommandTable::hyphenated(QLatin1String(option.name))) +
+            QLatin1String("\\fR");
     if (option.type != ValueType::flag)
         term += QLatin1String(" \\fI") + escaped(HelpText::placeholder(option)) + QLatin1String("\\fR");
     QString meaning = text(option.description);
@@ -52,8 +58,9 @@ QString examples(const char *lines)
 
 QString commandEntry(const Command &command)
 {
-    QString page = QLatin1String(".SS \"billora ") + escaped(HelpText::usage(command)).replace(QLatin1Char('"'), QLatin1String("\\(dq")) + QLatin1String("\"\n") +
-                   escaped(text(command.summary)) + QLatin1String(".\n");
+    QString page = QLatin1String(".SS \"billora ") +
+                   escaped(HelpText::usage(command)).replace(QLatin1Char('"'), QLatin1String("\\(dq")) +
+                   QLatin1String("\"\n") + escaped(text(command.summary)) + QLatin1String(".\n");
     const QVector<const Option *> options = CommandTable::options(command);
     for (const Option *option : options) {
         if (!option->is(Option::onlyWord))
@@ -66,7 +73,8 @@ QString exitCodes()
 {
     QString page = section(TEXT("Paluuarvot"));
     for (int i = 0; i < exitMeaningCount; ++i)
-        page += QStringLiteral(".TP\n%1\n%2\n").arg(QString::number(exitMeanings[i].code), escaped(text(exitMeanings[i].text)));
+        page += QStringLiteral(".TP\n%1\n%2\n")
+                    .arg(QString::number(exitMeanings[i].code), escaped(text(exitMeanings[i].text)));
     return page;
 }
 
@@ -77,7 +85,8 @@ QString programPage()
     page += section(TEXT("Komennot"));
     const QStringList nouns = CommandTable::nouns();
     for (const QString &noun : nouns)
-        page += QStringLiteral(".TP\n\\fBbillora\\-%1\\fR(1)\n%2\n").arg(noun, escaped(text(CommandTable::nounSummary(noun))));
+        page += QStringLiteral(".TP\n\\fBbillora\\-%1\\fR(1)\n%2\n")
+                    .arg(noun, escaped(text(CommandTable::nounSummary(noun))));
     for (const CommandGroup &group : CommandTable::groups()) {
         for (const Command &command : group) {
             const QString name = QLatin1String(command.name);

@@ -36,8 +36,9 @@ const rapidjson::Value *member(const rapidjson::Value &object, const char *name)
 
 QString textOf(const rapidjson::Value *value)
 {
-    return value && value->IsString() ? QString::fromUtf8(value->GetString(), static_cast<int>(value->GetStringLength()))
-                                      : QString();
+    return value && value->IsString()
+               ? QString::fromUtf8(value->GetString(), static_cast<int>(value->GetStringLength()))
+               : QString();
 }
 
 QByteArray response(const QByteArray &id, const QByteArray &result)
@@ -56,7 +57,10 @@ QByteArray failure(const QByteArray &id, int code, const QString &message)
     return bytes + '}';
 }
 
-QString toolName(const Command &command) { return QString::fromLatin1(command.name).replace(QLatin1Char(' '), QLatin1Char('_')); }
+QString toolName(const Command &command)
+{
+    return QString::fromLatin1(command.name).replace(QLatin1Char(' '), QLatin1Char('_'));
+}
 
 /** Whether the id stood in the line as a number and not as a text. */
 bool isNumberInLine(const QByteArray &line, const QByteArray &text)

@@ -10,8 +10,8 @@
 #include <functional>
 
 /**
- * A server of the Model Context Protocol (revision 2025-06-18) on standard input and output: JSON-RPC 2.0, one message a
- * line. Its tools are the commands that a batch takes.
+ * A server of the Model Context Protocol (revision 2025-06-18) on standard input and output: JSON-RPC 2.0, one message
+ * a line. Its tools are the commands that a batch takes.
  */
 class McpServer {
 public:

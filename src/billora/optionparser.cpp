@@ -3,6 +3,7 @@
 #include "commandtable.h"
 #include "suggestions.h"
 #include "texts.h"
+#include "valuereader.h"
 
 #include <algorithm>
 
@@ -180,6 +181,8 @@ private:
                 return;
             }
             value = m_words.at(++m_at);
+        } else if (isField(name) && m_at + 1 < m_words.size() && ValueReader::isYesOrNo(m_words.at(m_at + 1))) {
+            value = m_words.at(++m_at); // a field is said either way: --visible false
         }
         bool isGlobal = false;
         for (const Option &global : CommandTable::globalOptions())
@@ -190,6 +193,11 @@ private:
             return;
         }
         target.add(name, value);
+    }
+
+    bool isField(const QString &name) const
+    {
+        return m_line.command && m_line.command->edits && m_line.command->edits->find(name);
     }
 
     static Problem problemOf(Problem::Code code, const QString &option, const QString &message)

@@ -15,6 +15,9 @@
 
 namespace {
 
+/** Options such as `-c FILE` stand in front of it. */
+constexpr int maxWordsBeforeComplete = 4;
+
 bool isGiven(const Arguments &global, const char *flag) { return global.text(flag) == QLatin1String("true"); }
 
 bool writeOutput(const QByteArray &bytes) { return Terminal::write(STDOUT_FILENO, bytes); }
@@ -111,8 +114,9 @@ bool Program::paints(const QStringList &words)
 
 int Program::run(const QStringList &words)
 {
-    if (!words.isEmpty() && words.first() == QLatin1String("__complete"))
-        return complete(words.mid(1));
+    const int completeAt = words.indexOf(QStringLiteral("__complete"));
+    if (completeAt >= 0 && completeAt <= maxWordsBeforeComplete)
+        return complete(words.mid(0, completeAt), words.mid(completeAt + 1));
     CommandLine line = OptionParser::parse(words);
     QString settingsFile = line.global.text("config");
     if (settingsFile.isEmpty())
@@ -131,6 +135,12 @@ int Program::run(const QStringList &words)
     if (isGiven(line.global, "version")) {
         print(QStringLiteral("billora " BILLORA_VERSION "\n"));
         return 0;
+    }
+    if (line.problem.isSet()) { // what was not read of the line may still say how the problem is to be told
+        for (const char *form : {"json", "jsonl", "csv"}) {
+            if (words.contains(QLatin1String("--") + QLatin1String(form)) && !line.global.has(form))
+                line.global.add(QLatin1String(form), QStringLiteral("true"));
+        }
     }
     readForm(line.global);
     if (line.problem.isSet()) // again: the first time it was told before the language was known
@@ -153,11 +163,11 @@ int Program::run(const QStringList &words)
 }
 
 /** Answers a shell: whatever is wrong, it is only that nothing is known. */
-int Program::complete(QStringList words)
+int Program::complete(const QStringList &before, QStringList words)
 {
     if (!words.isEmpty() && words.first() == QLatin1String("--"))
         words.removeFirst();
-    const CommandLine line = OptionParser::parse(words.mid(0, std::max(0, words.size() - 1)));
+    const CommandLine line = OptionParser::parse(before + words.mid(0, std::max(0, words.size() - 1)));
     const auto chosen = [&line](const char *option, const char *variable) {
         const QString given = line.global.text(option);
         return given.isEmpty() ? qEnvironmentVariable(variable) : given;

@@ -22,7 +22,7 @@ private:
     bool readGlobals(const CommandLine &line);
     bool readForm(const Arguments &global);
     void chooseLanguage(const Arguments &global);
-    int complete(QStringList words);
+    int complete(const QStringList &before, QStringList words);
     int execute(const Command &command, const Arguments &arguments);
     int report(const Problem &problem) const;
 

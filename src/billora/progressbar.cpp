@@ -33,5 +33,6 @@ void ProgressBar::show(int done)
     m_isShown = true;
     const int filled = static_cast<int>(static_cast<long long>(done) * width / m_total);
     const QString bar = QString(filled, QLatin1Char('#')) + QString(width - filled, QLatin1Char('.'));
-    Terminal::write(STDERR_FILENO, QStringLiteral("\r[%1] %2/%3").arg(bar, QString::number(done), QString::number(m_total)).toUtf8());
+    Terminal::write(STDERR_FILENO,
+                    QStringLiteral("\r[%1] %2/%3").arg(bar, QString::number(done), QString::number(m_total)).toUtf8());
 }

@@ -362,7 +362,8 @@ bool References::invoice(Task &task, const QString &option, const QString &word,
 bool References::payment(Task &task, const QString &option, const QString &word, Payment &record)
 {
     int id = 0;
-    const IdWord byId = idOf(task, payments, option, word, task.context().lastSaved.payment, &Query::newestPaymentId, id);
+    const IdWord byId =
+        idOf(task, payments, option, word, task.context().lastSaved.payment, &Query::newestPaymentId, id);
     if (byId == IdWord::wrong)
         return false;
     if (byId == IdWord::none) {

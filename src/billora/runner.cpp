@@ -19,7 +19,10 @@ namespace {
 /** Global options that a program may give with the arguments of a command. */
 const QStringList globalNames = {QStringLiteral("fields"), QStringLiteral("yes")};
 
-bool takesRows(const Command &command) { return command.edits == &invoiceTable && command.noun() == QLatin1String("invoice"); }
+bool takesRows(const Command &command)
+{
+    return command.edits == &invoiceTable && command.noun() == QLatin1String("invoice");
+}
 
 void addTo(QCryptographicHash &hash, const Arguments &arguments)
 {
@@ -94,7 +97,8 @@ bool Runner::run(const Command &command, const Arguments &arguments, Answer &ans
     if (!check(command, arguments, manners))
         return false;
     if (!key.isEmpty() && !command.is(Command::keyed))
-        return task.fail(Problem::conflict, text(TEXT("valinta --key ei sovi komentoon %1")).arg(QLatin1String(command.name)),
+        return task.fail(Problem::conflict,
+                         text(TEXT("valinta --key ei sovi komentoon %1")).arg(QLatin1String(command.name)),
                          QStringLiteral("key"), key);
     if (!command.is(Command::noCompany) && !m_session.open())
         return false;
@@ -138,9 +142,8 @@ bool Runner::runKeyed(Task &task, const QString &key)
             done = true;
         }
     } else {
-        done = task.command.run(task) &&
-               (keys.add(key, {digest, lastSaved(task.command)}) ||
-                m_session.fail(Failure::database, {keys.lastError()}));
+        done = task.command.run(task) && (keys.add(key, {digest, lastSaved(task.command)}) ||
+                                          m_session.fail(Failure::database, {keys.lastError()}));
     }
     session.setEnclosed(wasEnclosed);
     return done && transaction.commit();

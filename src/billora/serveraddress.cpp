@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFile>
 #include <QUrl>
+#include <QUrlQuery>
 
 namespace {
 
@@ -43,20 +44,40 @@ bool ServerAddress::read(Task &task, const QString &typed, QVariantMap &entry)
     const QString option = QStringLiteral("postgresql");
     const QUrl url(typed, QUrl::StrictMode);
     const QString database = url.path().mid(1);
-    const bool isRight = url.isValid() &&
+    // What the client library's own addresses hold besides: a folder of sockets, several servers, encryption.
+    struct {
+        const char *name, *key;
+        QString value;
+    } values[] = {{"host", "host", url.host()},
+                  {"port", "port", url.port() > 0 ? QString::number(url.port()) : QString()},
+                  {"user", "username", url.userName()},
+                  {"sslmode", "sslmode", QString()},
+                  {"sslrootcert", "sslrootcert", QString()}};
+    bool isKnown = true;
+    const auto items = QUrlQuery(url).queryItems(QUrl::FullyDecoded);
+    for (const auto &item : items) {
+        bool isTaken = false;
+        for (auto &value : values) {
+            if (item.first == QLatin1String(value.name)) {
+                value.value = item.second;
+                isTaken = true;
+            }
+        }
+        isKnown = isKnown && isTaken;
+    }
+    const bool isRight = url.isValid() && isKnown &&
                          (url.scheme() == QLatin1String("postgresql") || url.scheme() == QLatin1String("postgres")) &&
-                         !url.host().isEmpty() && !database.isEmpty() && !database.contains(QLatin1Char('/'));
+                         !values[0].value.isEmpty() && !database.isEmpty() && !database.contains(QLatin1Char('/'));
     if (!isRight)
         return task.reader.failValue(option, typed, text(TEXT("osoite on postgresql://KÄYTTÄJÄ@PALVELIN/TIETOKANTA")));
     if (!url.password().isEmpty())
         return task.reader.failValue(option, QStringLiteral("postgresql://…"),
                                      text(TEXT("salasana näkyisi kaikille; anna se tiedostossa: --password-file")));
     entry.insert(QStringLiteral("type"), QStringLiteral("postgresql"));
-    entry.insert(QStringLiteral("host"), url.host());
     entry.insert(QStringLiteral("databaseName"), database);
-    if (url.port() > 0)
-        entry.insert(QStringLiteral("port"), url.port());
-    if (!url.userName().isEmpty())
-        entry.insert(QStringLiteral("username"), url.userName());
+    for (const auto &value : values) {
+        if (!value.value.isEmpty())
+            entry.insert(QLatin1String(value.key), value.value);
+    }
     return readPassword(task, entry);
 }

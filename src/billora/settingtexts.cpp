@@ -96,7 +96,8 @@ bool SettingTexts::resolve(Task &task, const QString &word, QString &key)
     }
     Problem problem;
     problem.code = fitting.isEmpty() ? Problem::notFound : Problem::ambiguous;
-    problem.message = ::text(fitting.isEmpty() ? TEXT("asetusta ei ole: %1") : TEXT("asetuksia on useita: %1")).arg(word);
+    problem.message =
+        ::text(fitting.isEmpty() ? TEXT("asetusta ei ole: %1") : TEXT("asetuksia on useita: %1")).arg(word);
     problem.option = QStringLiteral("key");
     problem.value = word;
     problem.see = QStringLiteral("billora settings list --all");

@@ -158,14 +158,18 @@ bool ValueReader::isTrue(const QString &value)
     return yes.contains(value.toLower());
 }
 
-bool ValueReader::flag(const QString &name, const QString &value, bool &result) const
+bool ValueReader::isYesOrNo(const QString &value)
 {
     static const QStringList no = {QStringLiteral("false"), QStringLiteral("no"), QStringLiteral("n"),
                                    QStringLiteral("0"),     QStringLiteral("ei"), QStringLiteral("e")};
-    const bool isYes = isTrue(value);
-    if (!isYes && !no.contains(value.toLower()))
+    return isTrue(value) || no.contains(value.toLower());
+}
+
+bool ValueReader::flag(const QString &name, const QString &value, bool &result) const
+{
+    if (!isYesOrNo(value))
         return failValue(name, value, ::text(TEXT("arvo on true tai false")));
-    result = isYes;
+    result = isTrue(value);
     return true;
 }
 

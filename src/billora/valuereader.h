@@ -40,6 +40,8 @@ public:
     bool word(const QString &name, const Choice *choices, const QString &value, QString &result) const;
     /** Whether a text is a yes of flag(). */
     static bool isTrue(const QString &value);
+    /** Whether it is either. */
+    static bool isYesOrNo(const QString &value);
     /** `true yes y 1 kyllä k`, `false no n 0 ei e`. */
     bool flag(const QString &name, const QString &value, bool &result) const;
     /**

@@ -17,7 +17,6 @@
 #include <QHash>
 #include <QVector>
 
-
 namespace {
 
 struct State {
@@ -45,8 +44,8 @@ bool customerByNumber(CommandContext &context, const QString &key, const QString
 {
     int number = 0;
     Customer customer;
-    return context.values.parseIntValue(key, value, number) &&
-           context.finder.findCustomerByNumber(number, &customer) && useCustomer(state, customer);
+    return context.values.parseIntValue(key, value, number) && context.finder.findCustomerByNumber(number, &customer) &&
+           useCustomer(state, customer);
 }
 
 bool customerByName(CommandContext &context, const QString &, const QString &value, State &state)

@@ -11,7 +11,6 @@
 #include "recordprinter.h"
 #include "writetransaction.h"
 
-
 namespace {
 
 struct State {

@@ -73,8 +73,7 @@ bool savePayment(CommandContext &context, const ParameterList &words, SaveComman
     if (mode == SaveCommandMode::add && !state.hasInvoice)
         return context.status.fail(ExitCode::badData, CommandContext::tr("Parametri findInvoiceById on pakollinen"));
     // The payment stays saved when the totals cannot be brought up to date, as when its invoice is gone.
-    const InvoiceTotals::Outcome outcome =
-        RecordEditing::savePayment(context, state.record, state.earlierInvoiceId);
+    const InvoiceTotals::Outcome outcome = RecordEditing::savePayment(context, state.record, state.earlierInvoiceId);
     if (outcome == InvoiceTotals::Outcome::tooLarge)
         return false;
     return transaction.commit() && outcome == InvoiceTotals::Outcome::updated;

@@ -29,9 +29,10 @@ bool KeyTable::find(const QString &key, Entry &entry, bool &isFound)
 bool KeyTable::add(const QString &key, const Entry &entry)
 {
     QSqlQuery query(m_connection);
-    bool ok = exists() || query.exec(QStringLiteral("CREATE TABLE billora_key (name varchar(200) PRIMARY KEY, digest "
-                                                    "varchar(64) NOT NULL, record_id integer NOT NULL, made varchar(40) "
-                                                    "NOT NULL)"));
+    bool ok =
+        exists() || query.exec(QStringLiteral("CREATE TABLE billora_key (name varchar(200) PRIMARY KEY, digest "
+                                              "varchar(64) NOT NULL, record_id integer NOT NULL, made varchar(40) "
+                                              "NOT NULL)"));
     if (ok) {
         query.prepare(QStringLiteral("INSERT INTO billora_key (name, digest, record_id, made) VALUES (?, ?, ?, ?)"));
         query.addBindValue(key);

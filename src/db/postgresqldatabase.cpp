@@ -44,7 +44,15 @@ bool PostgreSQLDatabase::open(QSettings *settings)
     database.setUserName(settings->value(QStringLiteral("username"), QStringLiteral("billora")).toString());
     database.setPassword(settings->value(QStringLiteral("password")).toString());
 
-    database.setConnectOptions(QLatin1String(connectOptions));
+    QString options = QLatin1String(connectOptions);
+    if (host.contains(QLatin1Char(','))) // of several servers the one that takes writes
+        options += QLatin1String(";target_session_attrs=read-write");
+    for (const char *name : {"sslmode", "sslrootcert"}) {
+        const QString value = settings->value(QLatin1String(name)).toString();
+        if (!value.isEmpty())
+            options += QLatin1Char(';') + QLatin1String(name) + QLatin1Char('=') + value;
+    }
+    database.setConnectOptions(options);
 
     bool ok = database.open();
     m_exists = ok || !database.lastError().databaseText().trimmed().endsWith(QLatin1String("does not exist"));
@@ -154,4 +162,7 @@ Query *PostgreSQLDatabase::query()
     return new PostgreSQLQuery(statement, this);
 }
 
-bool PostgreSQLDatabase::isLockError(const QString &reason) const { return reason.contains(QLatin1String("lock timeout")); }
+bool PostgreSQLDatabase::isLockError(const QString &reason) const
+{
+    return reason.contains(QLatin1String("lock timeout"));
+}

@@ -29,10 +29,7 @@ public:
     RowReader &operator>>(long long &value) { return set(value, next().toLongLong()); }
     RowReader &operator>>(bool &value) { return set(value, next().toBool()); }
     RowReader &operator>>(QString &value) { return set(value, next().toString()); }
-    RowReader &operator>>(QDate &value)
-    {
-        return set(value, dateValue(m_row, m_column++));
-    }
+    RowReader &operator>>(QDate &value) { return set(value, dateValue(m_row, m_column++)); }
     RowReader &operator>>(QByteArray &value) { return set(value, next().toByteArray()); }
     RowReader &operator>>(PropertyMap &value)
     {

@@ -11,8 +11,8 @@ struct UseCaseContext;
 namespace CreateDatabase {
 
 /**
- * @param entry  as it will stand in the list: type, filename or host, port, databaseName, username, password; its number
- *               is set when it has none
+ * @param entry  as it will stand in the list: type, filename or host, port, databaseName, username, password; its
+ * number is set when it has none
  * @param sellerName  the seller's name in the new database
  * @param fill   called with the new database open, to fill it; false takes everything back
  * @return false with the failure told: neither a file nor an entry is left. In a trial nothing is made.

@@ -9,13 +9,13 @@ namespace Failure {
 
 enum Code {
     // The database
-    database,         ///< the reason in the database's own words
-    databaseLocked,   ///< the same: another program holds it
+    database,               ///< the reason in the database's own words
+    databaseLocked,         ///< the same: another program holds it
     databaseNumberTaken,    ///< number in the list
     databaseNumberUnknown,  ///< number in the list
     settingsFileUnwritable, ///< file name
-    noDatabaseListed, ///< no database is configured, or none of the wanted number
-    databaseMissing,  ///< file name
+    noDatabaseListed,       ///< no database is configured, or none of the wanted number
+    databaseMissing,        ///< file name
 
     // A record that was named: what was searched
     bankAccountIdUnknown,
@@ -40,11 +40,11 @@ enum Code {
     scriptUnreadable,
     scriptException, ///< text, line
     scriptWithoutFunction,
-    layoutNameTaken,  ///< name
-    fileUnreadable, ///< file name, reason
+    layoutNameTaken,      ///< name
+    fileUnreadable,       ///< file name, reason
     paymentFormatUnknown, ///< file name, reason
-    fileUnwritable, ///< file name, reason
-    fileExists,     ///< file name; never overwritten where this is told
+    fileUnwritable,       ///< file name, reason
+    fileExists,           ///< file name; never overwritten where this is told
 
     // Rules
     invoiceTotalTooLarge, ///< total or balance beyond 32 bits of cents

@@ -11,9 +11,9 @@ enum class ImportResult { saved, alreadyImported, unmatched, ambiguous, error };
 struct ImportedPayment {
     QString fileName;
     long long lineNumber = 0; ///< from 1
-    QDate date;              ///< the bank's entry date
-    int amount = 0;          ///< cents; negative for a correction or a payment out
-    QString referenceNumber; ///< national form without leading zeros, empty for none
+    QDate date;               ///< the bank's entry date
+    int amount = 0;           ///< cents; negative for a correction or a payment out
+    QString referenceNumber;  ///< national form without leading zeros, empty for none
     QString payerName;
     QString archiveId;      ///< the bank's, empty for none
     QString format;         ///< of the file, see PaymentFileReader::format()

@@ -1,3 +1,8 @@
 #include "commandgroups.h"
 
-QVector<CommandGroup> commandGroups() { return {wholeCompanyCommands(), invoiceCommands(), rowCommands(), customerCommands(), productCommands(), accountCommands(), paymentCommands(), reportCommands(), layoutCommands(), companyCommands(), settingsCommands(), programCommands()}; }
+QVector<CommandGroup> commandGroups()
+{
+    return {wholeCompanyCommands(), invoiceCommands(), rowCommands(),      customerCommands(),
+            productCommands(),      accountCommands(), paymentCommands(),  reportCommands(),
+            layoutCommands(),       companyCommands(), settingsCommands(), programCommands()};
+}

@@ -67,10 +67,12 @@ bool list(Task &task)
 }
 
 constexpr Option companyWord[] = {
-    {"company", ValueType::integer, TEXT("yrityksen numero luettelossa"), Option::plainWord | Option::required | Option::onlyWord, nullptr, 0, "NUMBER"},
+    {"company", ValueType::integer, TEXT("yrityksen numero luettelossa"),
+     Option::plainWord | Option::required | Option::onlyWord, nullptr, 0, "NUMBER"},
 };
 constexpr Option showWord[] = {
-    {"company", ValueType::integer, TEXT("yrityksen numero; valittu, jos sitä ei anneta"), Option::plainWord | Option::onlyWord, nullptr, 0, "NUMBER"},
+    {"company", ValueType::integer, TEXT("yrityksen numero; valittu, jos sitä ei anneta"),
+     Option::plainWord | Option::onlyWord, nullptr, 0, "NUMBER"},
 };
 
 bool show(Task &task)
@@ -90,7 +92,8 @@ bool show(Task &task)
 
 constexpr Option addWords[] = {
     {"file", ValueType::file, TEXT("SQLite-tiedosto, jossa yritys on"), Option::plainWord},
-    {"postgresql", ValueType::text, TEXT("tietokanta palvelimella: postgresql://KÄYTTÄJÄ@PALVELIN/TIETOKANTA"), 0, nullptr, 0, "URL"},
+    {"postgresql", ValueType::text, TEXT("tietokanta palvelimella: postgresql://KÄYTTÄJÄ@PALVELIN/TIETOKANTA"), 0,
+     nullptr, 0, "URL"},
     {"passwordFile", ValueType::file, TEXT("tiedosto, jossa tietokannan salasana on")},
     {"number", ValueType::integer, TEXT("numero luettelossa; seuraava vapaa, jos sitä ei anneta")},
 };
@@ -124,7 +127,8 @@ bool add(Task &task)
         return task.session.fail(Failure::databaseNumberTaken, {QString::number(number)});
     for (const QVariantMap &known : list.entries()) {
         if (!isServer && known.value(QStringLiteral("filename")) == entry.value(QStringLiteral("filename")))
-            return task.fail(Problem::exists, text(TEXT("yritys on jo luettelossa numerolla %1")).arg(DatabaseList::number(known)),
+            return task.fail(Problem::exists,
+                             text(TEXT("yritys on jo luettelossa numerolla %1")).arg(DatabaseList::number(known)),
                              QStringLiteral("file"));
     }
     entry.insert(QStringLiteral("number"), number);
@@ -134,7 +138,8 @@ bool add(Task &task)
     if (!save(task, list))
         return false;
     const CompanyRecord record = recordOf(entry, list.lastUsed());
-    return task.answer.saved(companyTable, &record, text(TEXT("Yritys %1 lisätty luetteloon")).arg(number), task.session);
+    return task.answer.saved(companyTable, &record, text(TEXT("Yritys %1 lisätty luetteloon")).arg(number),
+                             task.session);
 }
 
 bool use(Task &task)
@@ -168,16 +173,46 @@ bool forget(Task &task)
 constexpr unsigned flags = Command::noCompany | Command::single;
 
 constexpr Command commands[] = {
-    {"company list", TEXT("yritykset, joilla on tietokanta"), list, flags | Command::lists, &companyTable, nullptr, {}, "company list"},
-    {"company show", TEXT("missä yrityksen tietokanta on"), show, flags, &companyTable, nullptr, {group(showWord)},
+    {"company list",
+     TEXT("yritykset, joilla on tietokanta"),
+     list,
+     flags | Command::lists,
+     &companyTable,
+     nullptr,
+     {},
+     "company list"},
+    {"company show",
+     TEXT("missä yrityksen tietokanta on"),
+     show,
+     flags,
+     &companyTable,
+     nullptr,
+     {group(showWord)},
      "company show"},
-    {"company add", TEXT("lisää luetteloon yrityksen, joka on jo olemassa"), add, flags | Command::writes,
-     &companyTable, nullptr, {group(addWords)},
+    {"company add",
+     TEXT("lisää luetteloon yrityksen, joka on jo olemassa"),
+     add,
+     flags | Command::writes,
+     &companyTable,
+     nullptr,
+     {group(addWords)},
      "company add vanha.sqlite"},
-    {"company use", TEXT("valitsee yrityksen, jota komennot koskevat"), use, flags | Command::writes, &companyTable,
-     nullptr, {group(companyWord)}, "company use 1"},
-    {"company forget", TEXT("poistaa yrityksen luettelosta; tietokanta jää"), forget, flags | Command::writes,
-     nullptr, nullptr, {group(companyWord)}, "company forget 2"},
+    {"company use",
+     TEXT("valitsee yrityksen, jota komennot koskevat"),
+     use,
+     flags | Command::writes,
+     &companyTable,
+     nullptr,
+     {group(companyWord)},
+     "company use 1"},
+    {"company forget",
+     TEXT("poistaa yrityksen luettelosta; tietokanta jää"),
+     forget,
+     flags | Command::writes,
+     nullptr,
+     nullptr,
+     {group(companyWord)},
+     "company forget 2"},
 };
 
 } // namespace

@@ -86,8 +86,9 @@ struct Kind {
         });
         if (!isWhole)
             return task.context().session.failQuery();
-        return !isTaken || task.fail(Problem::exists, text(TEXT("asiakasnumero on jo käytössä: %1")).arg(customer.number),
-                                     QStringLiteral("number"), QString::number(customer.number));
+        return !isTaken ||
+               task.fail(Problem::exists, text(TEXT("asiakasnumero on jo käytössä: %1")).arg(customer.number),
+                         QStringLiteral("number"), QString::number(customer.number));
     }
 
     static bool findKnown(Task &task, const Arguments &fields, Customer &customer, bool &isKnown)
@@ -128,7 +129,8 @@ struct Kind {
 };
 
 constexpr Option removeWords[] = {
-    {"customer", ValueType::customer, TEXT("asiakkaat"), Option::plainWord | Option::required | Option::onlyWord | Option::list},
+    {"customer", ValueType::customer, TEXT("asiakkaat"),
+     Option::plainWord | Option::required | Option::onlyWord | Option::list},
 };
 
 constexpr Command commands[] = {
@@ -150,17 +152,37 @@ constexpr Command commands[] = {
      {group(words)},
      "customer show 10\n"
      "customer show aallotar"},
-    {"customer add", TEXT("uusi asiakas"), RecordCommands::add<Kind>, Command::writes | Command::adds | Command::keyed,
-     &customerTable, &customerTable, {},
+    {"customer add",
+     TEXT("uusi asiakas"),
+     RecordCommands::add<Kind>,
+     Command::writes | Command::adds | Command::keyed,
+     &customerTable,
+     &customerTable,
+     {},
      "customer add \"Kirjakauppa Kuukkeli\" --town Joensuu --email ostot@kuukkeli.example"},
-    {"customer edit", TEXT("muuttaa asiakkaan tietoja; ilman kenttiä muokkaimessa"), RecordCommands::edit<Kind>,
-     Command::writes, &customerTable, &customerTable, {group(words)},
+    {"customer edit",
+     TEXT("muuttaa asiakkaan tietoja; ilman kenttiä muokkaimessa"),
+     RecordCommands::edit<Kind>,
+     Command::writes,
+     &customerTable,
+     &customerTable,
+     {group(words)},
      "customer edit 10 --payment-terms \"21 pv netto\""},
-    {"customer remove", TEXT("poistaa asiakkaita; laskut jäävät"), RecordCommands::remove<Kind>,
-     Command::writes | Command::destructive, nullptr, nullptr, {group(removeWords)},
+    {"customer remove",
+     TEXT("poistaa asiakkaita; laskut jäävät"),
+     RecordCommands::remove<Kind>,
+     Command::writes | Command::destructive,
+     nullptr,
+     nullptr,
+     {group(removeWords)},
      "customer remove 10 --yes"},
-    {"customer import", TEXT("asiakkaat CSV-tiedostosta, kaikki tai ei mitään"), RecordCommands::importFile<Kind>,
-     Command::writes | Command::keyed, nullptr, nullptr, {group(importWords)},
+    {"customer import",
+     TEXT("asiakkaat CSV-tiedostosta, kaikki tai ei mitään"),
+     RecordCommands::importFile<Kind>,
+     Command::writes | Command::keyed,
+     nullptr,
+     nullptr,
+     {group(importWords)},
      "customer import asiakkaat.csv --map \"Y-tunnus=vatNumber\""},
 };
 

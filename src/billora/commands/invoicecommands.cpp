@@ -60,10 +60,9 @@ bool show(Task &task)
 bool answer(Task &task, const InvoiceRecord &record, const char *sentence)
 {
     const Invoice &invoice = record.invoice;
-    const QString line = text(sentence)
-                             .arg(QString::number(invoice.number), record.customerName,
-                                  ValueWriter::money(invoice.totalAmount), ValueWriter::date(invoice.dueDate),
-                                  Invoice::formatReferenceNumber(invoice.referenceNumber));
+    const QString line = text(sentence).arg(QString::number(invoice.number), record.customerName,
+                                            ValueWriter::money(invoice.totalAmount), ValueWriter::date(invoice.dueDate),
+                                            Invoice::formatReferenceNumber(invoice.referenceNumber));
     return task.answer.saved(invoiceTable, &record, line, task.session);
 }
 
@@ -121,7 +120,8 @@ bool readFrom(Task &task, Arguments &given)
         return true;
     const QString name = given.text("from");
     QFile file(name);
-    const bool isOpen = name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
+    const bool isOpen =
+        name == QLatin1String("-") ? file.open(stdin, QIODevice::ReadOnly) : file.open(QIODevice::ReadOnly);
     if (!isOpen)
         return task.fail(Problem::file, text(TEXT("tiedostoa %1 ei voi lukea: %2")).arg(name, file.errorString()),
                          QStringLiteral("from"), name);
@@ -195,10 +195,9 @@ bool add(Task &task)
         long long total = 0;
         for (const InvoiceItem &row : qAsConst(rows))
             total += row.totalAmountVatIncluded();
-        if (!task.manners.agreesToAll &&
-            !Prompt::agrees(text(TEXT("Lasku %1: %2, %3. Tallennetaanko?"))
-                                .arg(QString::number(editor.invoice().number), editor.customer().name,
-                                     ValueWriter::money(total))))
+        if (!task.manners.agreesToAll && !Prompt::agrees(text(TEXT("Lasku %1: %2, %3. Tallennetaanko?"))
+                                                             .arg(QString::number(editor.invoice().number),
+                                                                  editor.customer().name, ValueWriter::money(total))))
             return task.fail(Problem::declined, text(TEXT("mitään ei tehty")));
     }
     return finish(task, editor, rows, transaction, savedSentence);
@@ -263,9 +262,7 @@ bool edit(Task &task)
     bool isUnchanged = false;
     const bool edited = EditorFile::edit(
         task, invoiceTable, &seen, &rows,
-        [&](const Arguments &changed) {
-            return change(task, QStringLiteral("id:%1").arg(invoice.id), changed, &seen);
-        },
+        [&](const Arguments &changed) { return change(task, QStringLiteral("id:%1").arg(invoice.id), changed, &seen); },
         isUnchanged);
     return edited && (!isUnchanged || answer(task, seen, TEXT("Mitään ei muutettu: lasku %1")));
 }
@@ -277,7 +274,8 @@ bool remove(Task &task)
         return false;
     WriteTransaction transaction(task.context().session);
     QVector<InvoiceRecord> records;
-    if (!transaction.hasBegun() || !InvoiceReader::read(task, selection, false, [&records](const InvoiceRecord &record) {
+    if (!transaction.hasBegun() ||
+        !InvoiceReader::read(task, selection, false, [&records](const InvoiceRecord &record) {
             records.append(record);
             return true;
         }))
@@ -422,7 +420,10 @@ constexpr Choice documentKinds[] = {{"reminder", TEXT("maksumuistutus")},
                                     {"delivery-note", TEXT("lähetyslista")},
                                     {nullptr, nullptr}};
 constexpr int printTypes[] = {InvoicePrintModel::reminder, InvoicePrintModel::receipt, InvoicePrintModel::deliveryNote};
-constexpr Choice formats[] = {{"pdf", TEXT("PDF")}, {"csv", TEXT("CSV, kaikki yhteen tiedostoon")}, {"finvoice", TEXT("Finvoice 1.3")}, {nullptr, nullptr}};
+constexpr Choice formats[] = {{"pdf", TEXT("PDF")},
+                              {"csv", TEXT("CSV, kaikki yhteen tiedostoon")},
+                              {"finvoice", TEXT("Finvoice 1.3")},
+                              {nullptr, nullptr}};
 
 constexpr Option exportOptions[] = {
     {"all", ValueType::flag, TEXT("kaikki")},
@@ -430,7 +431,8 @@ constexpr Option exportOptions[] = {
     {"format", ValueType::word, TEXT("tiedoston muoto; muuten nimen mukaan"), 0, formats},
     {"layout", ValueType::layout, TEXT("laskupohja, jos muu kuin valittu")},
     {"soap", ValueType::flag, TEXT("Finvoice välitysotsikoineen")},
-    {"output", ValueType::file, TEXT("tiedoston nimi; $i on laskun ja $n asiakkaan nimi tai numero, - on vakiotuloste"), 0, nullptr, 'o', "PATTERN"},
+    {"output", ValueType::file, TEXT("tiedoston nimi; $i on laskun ja $n asiakkaan nimi tai numero, - on vakiotuloste"),
+     0, nullptr, 'o', "PATTERN"},
     {"csvDelimiter", ValueType::text, TEXT("CSV-tiedoston erotin")},
 };
 
@@ -513,7 +515,8 @@ bool exportDocuments(Task &task)
         return task.fail(Problem::notFound, text(TEXT("yhtään laskua ei löytynyt")), QStringLiteral("invoices"));
     if (request.fileName == QLatin1String("-"))
         return exportToOutput(task, request);
-    const bool isCsv = request.format == csvFormat || (!request.format && request.fileName.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive));
+    const bool isCsv = request.format == csvFormat ||
+                       (!request.format && request.fileName.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive));
     const QString csvName = request.fileName.isEmpty() ? QStringLiteral("laskut.csv") : request.fileName;
     if (isCsv && QFileInfo::exists(csvName))
         return task.session.fail(Failure::fileExists, {csvName});
@@ -541,7 +544,8 @@ bool exportDocuments(Task &task)
             task.exitCode = exitNeedsLook;
         }
         if (isPlain)
-            task.answer.line(record.error.isEmpty() ? record.fileName : record.fileName + QLatin1String("  ") + record.error);
+            task.answer.line(record.error.isEmpty() ? record.fileName
+                                                    : record.fileName + QLatin1String("  ") + record.error);
         else
             task.answer.add(&record);
     }
@@ -571,29 +575,56 @@ constexpr Command commands[] = {
      {group(showWords)},
      "invoice show 1001\n"
      "invoice show @last --json"},
-    {"invoice add", TEXT("uusi lasku; seuraava numero ja viite"), add,
-     Command::writes | Command::adds | Command::keyed | Command::paints | Command::asks, &invoiceTable, &invoiceTable,
+    {"invoice add",
+     TEXT("uusi lasku; seuraava numero ja viite"),
+     add,
+     Command::writes | Command::adds | Command::keyed | Command::paints | Command::asks,
+     &invoiceTable,
+     &invoiceTable,
      {group(addOptions)},
      "invoice add aallotar --row \"S1 120\"\n"
      "invoice add 10 --row \"T1 6,5 discount=10 text=Pitäjänkartta 1786\"\n"
      "invoice add 10 --row \"- 1 name='Painotyö' price=80 vatRate=25.5\""},
-    {"invoice edit", TEXT("muuttaa laskua; ilman kenttiä muokkaimessa riveineen"), edit, Command::writes, &invoiceTable,
-     &invoiceTable, {group(editWords)},
+    {"invoice edit",
+     TEXT("muuttaa laskua; ilman kenttiä muokkaimessa riveineen"),
+     edit,
+     Command::writes,
+     &invoiceTable,
+     &invoiceTable,
+     {group(editWords)},
      "invoice edit 1001 --due-date +14d\n"
      "invoice edit 1001"},
-    {"invoice remove", TEXT("poistaa laskuja riveineen ja suorituksineen"), remove,
-     Command::writes | Command::destructive, nullptr, nullptr,
+    {"invoice remove",
+     TEXT("poistaa laskuja riveineen ja suorituksineen"),
+     remove,
+     Command::writes | Command::destructive,
+     nullptr,
+     nullptr,
      {group(Selection::invoiceWords), group(Selection::invoiceFilters), group(Selection::allOption)},
      "invoice remove 1001 --yes"},
-    {"invoice copy", TEXT("uusi lasku samoin rivein"), copy,
-     Command::writes | Command::keyed | Command::paints, &invoiceTable, &invoiceTable, {group(copyWords)},
+    {"invoice copy",
+     TEXT("uusi lasku samoin rivein"),
+     copy,
+     Command::writes | Command::keyed | Command::paints,
+     &invoiceTable,
+     &invoiceTable,
+     {group(copyWords)},
      "invoice copy @last --date +7d"},
-    {"invoice credit", TEXT("hyvityslasku, joka viittaa alkuperäiseen"), credit,
-     Command::writes | Command::keyed | Command::paints, &invoiceTable, &invoiceTable, {group(creditWords)},
+    {"invoice credit",
+     TEXT("hyvityslasku, joka viittaa alkuperäiseen"),
+     credit,
+     Command::writes | Command::keyed | Command::paints,
+     &invoiceTable,
+     &invoiceTable,
+     {group(creditWords)},
      "invoice credit 1001\n"
      "invoice credit 1001 --only 1,3"},
-    {"invoice export", TEXT("laskut tiedostoiksi: PDF, Finvoice tai CSV"), exportDocuments,
-     Command::paints | Command::eachOnly | Command::lists, &fileTable, nullptr,
+    {"invoice export",
+     TEXT("laskut tiedostoiksi: PDF, Finvoice tai CSV"),
+     exportDocuments,
+     Command::paints | Command::eachOnly | Command::lists,
+     &fileTable,
+     nullptr,
      {group(Selection::invoiceWords), group(Selection::invoiceFilters), group(exportOptions)},
      "invoice export 1001\n"
      "invoice export --overdue --as reminder -o 'muistutukset/$n-$i.pdf'\n"

@@ -55,7 +55,8 @@ bool list(Task &task)
     const QStringList builtIn = Registry::builtInPrintScriptNames();
     for (int i = 0; i < builtIn.size(); ++i) {
         const int id = Registry::builtInPrintScriptIds().at(i);
-        records.append({-1, QLatin1String(Layouts::invoiceType), builtIn.at(i), selected == id || (i == 0 && selected == -1)});
+        records.append(
+            {-1, QLatin1String(Layouts::invoiceType), builtIn.at(i), selected == id || (i == 0 && selected == -1)});
     }
     for (const PrintScript &layout : qAsConst(layouts))
         records.append({layout.id, layout.type, layout.name, layout.id == selected});
@@ -115,8 +116,7 @@ bool editSource(Task &task, QString &source, bool &isUnchanged)
     place.write(source.toUtf8());
     place.close();
     QString edited;
-    if (!EditorFile::open(task, place.fileName()) ||
-        !Layouts::readSource(task.context(), place.fileName(), edited))
+    if (!EditorFile::open(task, place.fileName()) || !Layouts::readSource(task.context(), place.fileName(), edited))
         return false;
     isUnchanged = edited == source || edited.trimmed().isEmpty();
     source = edited;
@@ -188,17 +188,52 @@ bool use(Task &task)
 }
 
 constexpr Command commands[] = {
-    {"layout list", TEXT("laskupohjat ja Finvoice-kirjoittimet"), list, Command::lists, &layoutTable, nullptr,
-     {group(searchOptions), group(fullOption)}, "layout list"},
-    {"layout show", TEXT("laskupohjan lähdeteksti"), show, 0, &layoutTable, nullptr, {group(words)},
+    {"layout list",
+     TEXT("laskupohjat ja Finvoice-kirjoittimet"),
+     list,
+     Command::lists,
+     &layoutTable,
+     nullptr,
+     {group(searchOptions), group(fullOption)},
+     "layout list"},
+    {"layout show",
+     TEXT("laskupohjan lähdeteksti"),
+     show,
+     0,
+     &layoutTable,
+     nullptr,
+     {group(words)},
      "layout show Oletuslaskupohja"},
-    {"layout add", TEXT("uusi laskupohja tiedostosta"), add, Command::writes | Command::adds | Command::keyed, &layoutTable, nullptr,
-     {group(addWords)}, "layout add Oma oma.js"},
-    {"layout edit", TEXT("muuttaa laskupohjaa"), edit, Command::writes, &layoutTable, nullptr, {group(editWords)},
+    {"layout add",
+     TEXT("uusi laskupohja tiedostosta"),
+     add,
+     Command::writes | Command::adds | Command::keyed,
+     &layoutTable,
+     nullptr,
+     {group(addWords)},
+     "layout add Oma oma.js"},
+    {"layout edit",
+     TEXT("muuttaa laskupohjaa"),
+     edit,
+     Command::writes,
+     &layoutTable,
+     nullptr,
+     {group(editWords)},
      "layout edit Oma oma.js"},
-    {"layout remove", TEXT("poistaa laskupohjan"), remove, Command::writes | Command::destructive, nullptr, nullptr,
-     {group(words)}, "layout remove Oma --yes"},
-    {"layout use", TEXT("valitsee laskupohjan uusille tulosteille"), use, Command::writes, &layoutTable, nullptr,
+    {"layout remove",
+     TEXT("poistaa laskupohjan"),
+     remove,
+     Command::writes | Command::destructive,
+     nullptr,
+     nullptr,
+     {group(words)},
+     "layout remove Oma --yes"},
+    {"layout use",
+     TEXT("valitsee laskupohjan uusille tulosteille"),
+     use,
+     Command::writes,
+     &layoutTable,
+     nullptr,
      {group(useWords)},
      "layout use Oma\n"
      "layout use --built-in"},

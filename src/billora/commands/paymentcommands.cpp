@@ -171,7 +171,8 @@ bool edit(Task &task)
 }
 
 constexpr Option removeWords[] = {
-    {"payment", ValueType::payment, TEXT("suoritukset"), Option::plainWord | Option::required | Option::onlyWord | Option::list},
+    {"payment", ValueType::payment, TEXT("suoritukset"),
+     Option::plainWord | Option::required | Option::onlyWord | Option::list},
 };
 
 bool remove(Task &task)
@@ -187,10 +188,13 @@ bool remove(Task &task)
         if (handles.contains(handle))
             continue;
         handles.append(handle);
-        names.append(text(TEXT("%1 (lasku %2, %3)")).arg(handle, QString::number(record.invoiceNumber), ValueWriter::money(record.payment.amount)));
+        names.append(
+            text(TEXT("%1 (lasku %2, %3)"))
+                .arg(handle, QString::number(record.invoiceNumber), ValueWriter::money(record.payment.amount)));
         records.append(record);
     }
-    if (!task.confirm(text(TEXT("Poistetaanko suoritus %1?")).arg(names.join(QLatin1String(", "))), records.size(), false))
+    if (!task.confirm(text(TEXT("Poistetaanko suoritus %1?")).arg(names.join(QLatin1String(", "))), records.size(),
+                      false))
         return false;
     WriteTransaction transaction(task.context().session);
     if (!transaction.hasBegun())
@@ -208,7 +212,8 @@ bool remove(Task &task)
 }
 
 constexpr Option importWords[] = {
-    {"file", ValueType::file, TEXT("pankin tiedostoja: tiliote, viitemaksut, CSV tai camt"), Option::plainWord | Option::required | Option::onlyWord | Option::list},
+    {"file", ValueType::file, TEXT("pankin tiedostoja: tiliote, viitemaksut, CSV tai camt"),
+     Option::plainWord | Option::required | Option::onlyWord | Option::list},
 };
 
 bool importFiles(Task &task)
@@ -238,26 +243,55 @@ bool importFiles(Task &task)
     }
     task.answer.endList();
     if (task.answer.options().isTerminal && task.answer.wantsSentences())
-        task.answer.line(text(TEXT("Tallennettu %1 (%2), kohdistamatta %3.")).arg(QString::number(saved), ValueWriter::money(sum), QString::number(open)));
+        task.answer.line(text(TEXT("Tallennettu %1 (%2), kohdistamatta %3."))
+                             .arg(QString::number(saved), ValueWriter::money(sum), QString::number(open)));
     return true;
 }
 
 constexpr Command commands[] = {
-    {"payment list", TEXT("luettelo suorituksista"), list, Command::lists, &paymentTable, nullptr,
+    {"payment list",
+     TEXT("luettelo suorituksista"),
+     list,
+     Command::lists,
+     &paymentTable,
+     nullptr,
      {group(listOptions), group(fullOption)},
      "payment list --date this-month\n"
      "payment list --invoice 1001"},
     {"payment show", TEXT("suorituksen tiedot"), show, 0, &paymentTable, nullptr, {group(words)}, "payment show 1"},
-    {"payment add", TEXT("suoritus laskulle"), add, Command::writes | Command::adds | Command::keyed, &paymentTable,
-     &paymentTable, {group(addWords)},
+    {"payment add",
+     TEXT("suoritus laskulle"),
+     add,
+     Command::writes | Command::adds | Command::keyed,
+     &paymentTable,
+     &paymentTable,
+     {group(addWords)},
      "payment add 1001\n"
      "payment add 1001 100,00 --date yesterday"},
-    {"payment edit", TEXT("muuttaa suoritusta"), edit, Command::writes, &paymentTable, &paymentTable,
-     {group(words), group(editOptions)}, "payment edit 1 --amount 120"},
-    {"payment remove", TEXT("poistaa suorituksia; laskut avautuvat"), remove, Command::writes | Command::destructive,
-     nullptr, nullptr, {group(removeWords)}, "payment remove 1 --yes"},
-    {"payment import", TEXT("suoritukset pankin tiedostoista, kukin kerran"), importFiles, Command::writes | Command::lists | Command::keyed,
-     &importTable, nullptr, {group(importWords)}, "payment import tiliote.xml"},
+    {"payment edit",
+     TEXT("muuttaa suoritusta"),
+     edit,
+     Command::writes,
+     &paymentTable,
+     &paymentTable,
+     {group(words), group(editOptions)},
+     "payment edit 1 --amount 120"},
+    {"payment remove",
+     TEXT("poistaa suorituksia; laskut avautuvat"),
+     remove,
+     Command::writes | Command::destructive,
+     nullptr,
+     nullptr,
+     {group(removeWords)},
+     "payment remove 1 --yes"},
+    {"payment import",
+     TEXT("suoritukset pankin tiedostoista, kukin kerran"),
+     importFiles,
+     Command::writes | Command::lists | Command::keyed,
+     &importTable,
+     nullptr,
+     {group(importWords)},
+     "payment import tiliote.xml"},
 };
 
 } // namespace

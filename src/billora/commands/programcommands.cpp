@@ -81,7 +81,8 @@ bool describe(Task &task)
 
 constexpr Choice shells[] = {{"bash", "bash"}, {"zsh", "zsh"}, {"fish", "fish"}, {nullptr, nullptr}};
 constexpr Option completionWords[] = {
-    {"shell", ValueType::word, TEXT("komentotulkki"), Option::plainWord | Option::required | Option::onlyWord, shells, 0, "bash|zsh|fish"},
+    {"shell", ValueType::word, TEXT("komentotulkki"), Option::plainWord | Option::required | Option::onlyWord, shells,
+     0, "bash|zsh|fish"},
 };
 
 bool completion(Task &task)
@@ -115,7 +116,8 @@ constexpr Option batchOptions[] = {
 bool batch(Task &task)
 {
     if (Terminal::isInput())
-        return task.fail(Problem::missingOption, text(TEXT("komennot luetaan vakiosyötteestä, yksi JSON-olio rivillä")));
+        return task.fail(Problem::missingOption,
+                         text(TEXT("komennot luetaan vakiosyötteestä, yksi JSON-olio rivillä")));
     Batch::Options options;
     options.isEach = task.flag("each");
     options.manners = task.manners;
@@ -129,17 +131,39 @@ bool batch(Task &task)
 }
 
 constexpr Command commands[] = {
-    {"batch", TEXT("komennot JSON-riveinä vakiosyötteestä, yhtenä tapahtumana"), batch,
-     Command::writes | Command::noCompany | Command::single | Command::paints, nullptr, nullptr, {group(batchOptions)},
+    {"batch",
+     TEXT("komennot JSON-riveinä vakiosyötteestä, yhtenä tapahtumana"),
+     batch,
+     Command::writes | Command::noCompany | Command::single | Command::paints,
+     nullptr,
+     nullptr,
+     {group(batchOptions)},
      "batch --each"},
-    {"describe", TEXT("komennot, kentät ja virhekoodit JSON-muodossa"), describe, Command::noCompany | Command::single,
-     nullptr, nullptr, {group(describeOptions)},
+    {"describe",
+     TEXT("komennot, kentät ja virhekoodit JSON-muodossa"),
+     describe,
+     Command::noCompany | Command::single,
+     nullptr,
+     nullptr,
+     {group(describeOptions)},
      "describe invoice add\n"
      "describe --schema invoice"},
-    {"mcp", TEXT("Model Context Protocol -palvelin vakiosyötteessä ja -tulosteessa"), mcp,
-     Command::noCompany | Command::single | Command::paints, nullptr, nullptr, {group(mcpOptions)}, "mcp --read-only"},
-    {"completion", TEXT("komentotulkin täydennys"), completion, Command::noCompany | Command::single, nullptr, nullptr,
-     {group(completionWords)}, "completion bash"},
+    {"mcp",
+     TEXT("Model Context Protocol -palvelin vakiosyötteessä ja -tulosteessa"),
+     mcp,
+     Command::noCompany | Command::single | Command::paints,
+     nullptr,
+     nullptr,
+     {group(mcpOptions)},
+     "mcp --read-only"},
+    {"completion",
+     TEXT("komentotulkin täydennys"),
+     completion,
+     Command::noCompany | Command::single,
+     nullptr,
+     nullptr,
+     {group(completionWords)},
+     "completion bash"},
     {"help",
      TEXT("ohje komennosta tai aiheesta"),
      help,

@@ -13,8 +13,8 @@
 #include <QVector>
 
 /*
- * Adding, editing and removing of the records that have a list of their own: customers, products, accounts. What differs
- * is told by a Kind:
+ * Adding, editing and removing of the records that have a list of their own: customers, products, accounts. What
+ * differs is told by a Kind:
  *
  *     using Record                        of the field table, with the stored record in the member `part`
  *     table, word                         the field table, and the name of the word that names records
@@ -49,7 +49,8 @@ template <class Kind> bool add(Task &task)
         return false;
     WriteTransaction transaction(task.context().session);
     if (!transaction.hasBegun() || !Kind::check(task, stored, nullptr) ||
-        !RecordEditing::save(task.context(), stored) || !transaction.commit() || !answer<Kind>(task, record, Kind::added))
+        !RecordEditing::save(task.context(), stored) || !transaction.commit() ||
+        !answer<Kind>(task, record, Kind::added))
         return false;
     const QString next = Kind::nextStep(stored);
     if (!next.isEmpty())

@@ -28,7 +28,9 @@ constexpr Option editWords[] = {
     rowWord,
     {"product", ValueType::product, TEXT("toinen tuote")},
 };
-constexpr Option removeWords[] = {invoiceWord, {"row", ValueType::position, TEXT("rivien paikat laskulla"), Option::plainWord | Option::required | Option::onlyWord | Option::list}};
+constexpr Option removeWords[] = {invoiceWord,
+                                  {"row", ValueType::position, TEXT("rivien paikat laskulla"),
+                                   Option::plainWord | Option::required | Option::onlyWord | Option::list}};
 
 /** Ends the change of an invoice's rows: answers with the invoice. */
 bool finish(Task &task, int invoiceId, const QString &position, WriteTransaction &transaction, const char *sentence)
@@ -37,11 +39,10 @@ bool finish(Task &task, int invoiceId, const QString &position, WriteTransaction
     if (!InvoiceReader::readWhole(task, invoiceId, record))
         return false;
     const QString place = position.isNull() ? QString::number(record.rows.size()) : position;
-    return transaction.commit() &&
-           task.answer.saved(invoiceTable, &record,
-                             text(sentence).arg(QString::number(record.invoice.number), place,
-                                                ValueWriter::money(record.invoice.totalAmount)),
-                             task.session);
+    return transaction.commit() && task.answer.saved(invoiceTable, &record,
+                                                     text(sentence).arg(QString::number(record.invoice.number), place,
+                                                                        ValueWriter::money(record.invoice.totalAmount)),
+                                                     task.session);
 }
 
 bool findInvoice(Task &task, Invoice &invoice)
@@ -105,12 +106,30 @@ bool remove(Task &task)
 }
 
 constexpr Command commands[] = {
-    {"row add", TEXT("uusi rivi laskulle"), add, Command::writes | Command::adds | Command::keyed, &invoiceTable,
-     &rowTable, {group(addWords)}, "row add 1001 S1 120 --discount 10"},
-    {"row edit", TEXT("muuttaa laskun riviä"), edit, Command::writes, &invoiceTable, &rowTable, {group(editWords)},
+    {"row add",
+     TEXT("uusi rivi laskulle"),
+     add,
+     Command::writes | Command::adds | Command::keyed,
+     &invoiceTable,
+     &rowTable,
+     {group(addWords)},
+     "row add 1001 S1 120 --discount 10"},
+    {"row edit",
+     TEXT("muuttaa laskun riviä"),
+     edit,
+     Command::writes,
+     &invoiceTable,
+     &rowTable,
+     {group(editWords)},
      "row edit 1001 2 --quantity 3"},
-    {"row remove", TEXT("poistaa laskun rivejä"), remove, Command::writes | Command::destructive, &invoiceTable, nullptr,
-     {group(removeWords)}, "row remove 1001 2 --yes"},
+    {"row remove",
+     TEXT("poistaa laskun rivejä"),
+     remove,
+     Command::writes | Command::destructive,
+     &invoiceTable,
+     nullptr,
+     {group(removeWords)},
+     "row remove 1001 2 --yes"},
 };
 
 } // namespace

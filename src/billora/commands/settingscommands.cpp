@@ -198,14 +198,17 @@ bool unset(Task &task)
 bool edit(Task &task)
 {
     if (!task.manners.isInteractive)
-        return task.fail(Problem::missingOption, text(TEXT("muokkain tarvitsee päätteen; käytä komentoa settings set")));
+        return task.fail(Problem::missingOption,
+                         text(TEXT("muokkain tarvitsee päätteen; käytä komentoa settings set")));
     const Settings *settings = read(task);
     if (!settings)
         return false;
     QStringList original;
     const QStringList keys = SettingsKeys::allKeys();
     for (const QString &key : keys)
-        original.append((key + QLatin1String(": ") + QString(recordOf(*settings, key).value).replace(QLatin1Char('\n'), QLatin1String("\\n"))).trimmed());
+        original.append((key + QLatin1String(": ") +
+                         QString(recordOf(*settings, key).value).replace(QLatin1Char('\n'), QLatin1String("\\n")))
+                            .trimmed());
     QTemporaryFile place(QDir::tempPath() + QLatin1String("/billora-XXXXXX.txt"));
     if (!place.open())
         return task.fail(Problem::file, place.errorString());
@@ -235,17 +238,46 @@ bool edit(Task &task)
 }
 
 constexpr Command commands[] = {
-    {"settings list", TEXT("yrityksen tiedot ja asetukset"), list, Command::lists, &settingTable, nullptr,
-     {group(listOptions)}, "settings list --all"},
-    {"settings get", TEXT("yhden asetuksen arvo"), get, 0, &settingTable, nullptr, {group(keyWord)},
+    {"settings list",
+     TEXT("yrityksen tiedot ja asetukset"),
+     list,
+     Command::lists,
+     &settingTable,
+     nullptr,
+     {group(listOptions)},
+     "settings list --all"},
+    {"settings get",
+     TEXT("yhden asetuksen arvo"),
+     get,
+     0,
+     &settingTable,
+     nullptr,
+     {group(keyWord)},
      "settings get paymentTerms"},
-    {"settings set", TEXT("tallentaa asetuksia, kaikki tai ei mitään"), set, Command::writes | Command::lists,
-     &settingTable, nullptr, {group(setWords)},
+    {"settings set",
+     TEXT("tallentaa asetuksia, kaikki tai ei mitään"),
+     set,
+     Command::writes | Command::lists,
+     &settingTable,
+     nullptr,
+     {group(setWords)},
      "settings set paymentTerms=\"14 pv netto\" interestOnArrears=11,5"},
-    {"settings unset", TEXT("poistaa asetuksia"), unset, Command::writes | Command::lists, &settingTable, nullptr,
-     {group(unsetWords)}, "settings unset logo"},
-    {"settings edit", TEXT("asetukset muokkaimessa"), edit, Command::writes | Command::single, &settingTable, nullptr,
-     {}, "settings edit"},
+    {"settings unset",
+     TEXT("poistaa asetuksia"),
+     unset,
+     Command::writes | Command::lists,
+     &settingTable,
+     nullptr,
+     {group(unsetWords)},
+     "settings unset logo"},
+    {"settings edit",
+     TEXT("asetukset muokkaimessa"),
+     edit,
+     Command::writes | Command::single,
+     &settingTable,
+     nullptr,
+     {},
+     "settings edit"},
 };
 
 } // namespace

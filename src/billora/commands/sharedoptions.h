@@ -11,7 +11,8 @@ inline constexpr Option fullOption[] = {
 };
 
 inline constexpr Option importWords[] = {
-    {"file", ValueType::file, TEXT("CSV-tiedosto, jossa on otsikkorivi; - on vakiosyöte"), Option::plainWord | Option::required | Option::onlyWord},
+    {"file", ValueType::file, TEXT("CSV-tiedosto, jossa on otsikkorivi; - on vakiosyöte"),
+     Option::plainWord | Option::required | Option::onlyWord},
     {"map", ValueType::text, TEXT("otsikon kenttä: OTSIKKO=KENTTÄ"), Option::list, nullptr, 0, "TITLE=FIELD"},
     {"ignoreUnknown", ValueType::flag, TEXT("ohittaa sarakkeet, joita ohjelma ei tunne")},
     {"update", ValueType::flag, TEXT("muuttaa tietueita, joiden numero on jo käytössä")},

@@ -1,9 +1,9 @@
 #include "commandgroups.h"
 
 #include "createdatabase.h"
-#include "databaselist.h"
 #include "database.h"
 #include "databasecheck.h"
+#include "databaselist.h"
 #include "iban.h"
 #include "prompt.h"
 #include "query.h"
@@ -27,7 +27,8 @@ namespace {
 constexpr Option initOptions[] = {
     {"name", ValueType::text, TEXT("yrityksen nimi"), Option::required},
     {"file", ValueType::file, TEXT("tietokannan tiedosto")},
-    {"postgresql", ValueType::text, TEXT("tietokanta palvelimella: postgresql://KÄYTTÄJÄ@PALVELIN/TIETOKANTA"), 0, nullptr, 0, "URL"},
+    {"postgresql", ValueType::text, TEXT("tietokanta palvelimella: postgresql://KÄYTTÄJÄ@PALVELIN/TIETOKANTA"), 0,
+     nullptr, 0, "URL"},
     {"passwordFile", ValueType::file, TEXT("tiedosto, jossa tietokannan salasana on")},
     {"number", ValueType::integer, TEXT("numero luettelossa; seuraava vapaa, jos sitä ei anneta")},
     {"businessId", ValueType::text, TEXT("Y-tunnus")},
@@ -44,8 +45,12 @@ constexpr Option initOptions[] = {
 constexpr struct {
     const char *option, *key;
 } initSettings[] = {
-    {"businessId", "sellerBusinessId"}, {"street", "sellerStreetName"}, {"postCode", "sellerPostCode"},
-    {"town", "sellerTownName"},         {"email", "seller/emailAddress"}, {"phone", "seller/phoneNumber"},
+    {"businessId", "sellerBusinessId"},
+    {"street", "sellerStreetName"},
+    {"postCode", "sellerPostCode"},
+    {"town", "sellerTownName"},
+    {"email", "seller/emailAddress"},
+    {"phone", "seller/phoneNumber"},
     {"paymentTerms", "settings/paymentTerms"},
 };
 
@@ -118,7 +123,8 @@ bool check(Task &task, const Arguments &given, NewCompany &company)
     }
     if (given.has("postgresql")) {
         if (given.has("file"))
-            return task.fail(Problem::conflict, text(TEXT("anna joko --file tai --postgresql")), QStringLiteral("file"));
+            return task.fail(Problem::conflict, text(TEXT("anna joko --file tai --postgresql")),
+                             QStringLiteral("file"));
         return ServerAddress::read(task, given.text("postgresql"), company.entry);
     }
     const QString typed = given.text("file");
@@ -134,10 +140,11 @@ bool check(Task &task, const Arguments &given, NewCompany &company)
 constexpr struct {
     const char *option, *question;
 } questions[] = {
-    {"name", TEXT("Yrityksen nimi")},       {"businessId", TEXT("Y-tunnus")},     {"street", TEXT("Katuosoite")},
-    {"postCode", TEXT("Postinumero")},      {"town", TEXT("Postitoimipaikka")},   {"email", TEXT("Sähköposti")},
-    {"phone", TEXT("Puhelin")},             {"iban", TEXT("Pankkitili (IBAN)")},  {"paymentTerms", TEXT("Maksuehto")},
-    {"file", TEXT("Tietokannan tiedosto")},
+    {"name", TEXT("Yrityksen nimi")},    {"businessId", TEXT("Y-tunnus")},
+    {"street", TEXT("Katuosoite")},      {"postCode", TEXT("Postinumero")},
+    {"town", TEXT("Postitoimipaikka")},  {"email", TEXT("Sähköposti")},
+    {"phone", TEXT("Puhelin")},          {"iban", TEXT("Pankkitili (IBAN)")},
+    {"paymentTerms", TEXT("Maksuehto")}, {"file", TEXT("Tietokannan tiedosto")},
 };
 
 /** Asks a person for what was not given. @return false when they gave up */
@@ -146,7 +153,8 @@ bool ask(Task &task, Arguments &given)
     QVector<int> open;
     constexpr int count = sizeof questions / sizeof questions[0];
     for (int i = 0; i < count; ++i) {
-        const bool isServerFile = QLatin1String(questions[i].option) == QLatin1String("file") && given.has("postgresql");
+        const bool isServerFile =
+            QLatin1String(questions[i].option) == QLatin1String("file") && given.has("postgresql");
         if (!given.has(questions[i].option) && !isServerFile)
             open.append(i);
     }
@@ -233,9 +241,10 @@ bool init(Task &task)
         record.file = file;
     }
     const QString place = record.isPostgreSQL ? record.host + QLatin1Char('/') + record.database : file;
-    if (!task.answer.saved(companyTable, &record,
-                           text(TEXT("Yritys %1 luotu: %2, %3")).arg(QString::number(record.number), company.name, place),
-                           task.session))
+    if (!task.answer.saved(
+            companyTable, &record,
+            text(TEXT("Yritys %1 luotu: %2, %3")).arg(QString::number(record.number), company.name, place),
+            task.session))
         return false;
     task.answer.hint(text(TEXT("Seuraavaksi: ")) + QStringLiteral("billora customer add ") + text(TEXT("NIMI")));
     return true;
@@ -383,18 +392,42 @@ bool optimize(Task &task)
 }
 
 constexpr Command commands[] = {
-    {"init", TEXT("luo yrityksen: tietokanta, myyjän tiedot, pankkitili"), init,
-     Command::writes | Command::noCompany | Command::single | Command::asks, &companyTable, nullptr, {group(initOptions)},
+    {"init",
+     TEXT("luo yrityksen: tietokanta, myyjän tiedot, pankkitili"),
+     init,
+     Command::writes | Command::noCompany | Command::single | Command::asks,
+     &companyTable,
+     nullptr,
+     {group(initOptions)},
      "init --name \"Saimaan Kirjansitomo Oy\" --business-id 0737546-2 --iban FI2112345600000785 --payment-terms \"14 "
      "pv netto\"\n"
      "init --name \"Saimaan Kirjansitomo Oy\" --postgresql postgresql://billora@palvelin/saimaa --password-file "
      "salasana.txt"},
     {"status", TEXT("yritys, avoimet ja erääntyneet"), status, 0, nullptr, nullptr, {}, "status"},
-    {"check", TEXT("tarkistaa tiedoston, rakenteen ja kirjat"), check, Command::lists, &findingTable, nullptr,
-     {group(checkOptions)}, "check"},
-    {"backup", TEXT("kopioi tietokannan tiedostoon, muiden kirjoittaessakin"), backup, Command::eachOnly, nullptr, nullptr,
-     {group(backupWords)}, "backup varmuuskopio.sqlite"},
-    {"optimize", TEXT("puuttuvat hakemistot ja tilastot"), optimize, Command::eachOnly, nullptr, nullptr, {}, "optimize"},
+    {"check",
+     TEXT("tarkistaa tiedoston, rakenteen ja kirjat"),
+     check,
+     Command::lists,
+     &findingTable,
+     nullptr,
+     {group(checkOptions)},
+     "check"},
+    {"backup",
+     TEXT("kopioi tietokannan tiedostoon, muiden kirjoittaessakin"),
+     backup,
+     Command::eachOnly,
+     nullptr,
+     nullptr,
+     {group(backupWords)},
+     "backup varmuuskopio.sqlite"},
+    {"optimize",
+     TEXT("puuttuvat hakemistot ja tilastot"),
+     optimize,
+     Command::eachOnly,
+     nullptr,
+     nullptr,
+     {},
+     "optimize"},
 };
 
 } // namespace

@@ -18,22 +18,32 @@ constexpr Choice databaseTypes[] = {{"sqlite", "SQLite"}, {"postgresql", "Postgr
 
 constexpr Field companyFields[] = {
     {"number", ValueType::integer, TEXT("Numero"), nullptr, shown | Field::handle, value<&CompanyRecord::number>},
-    {"type", ValueType::word, TEXT("Laji"), nullptr, shown, [](const void *r) { return Value(QString::fromLatin1(static_cast<const CompanyRecord *>(r)->isPostgreSQL ? "postgresql" : "sqlite")); }, nullptr, databaseTypes},
+    {"type", ValueType::word, TEXT("Laji"), nullptr, shown,
+     [](const void *r) {
+         return Value(
+             QString::fromLatin1(static_cast<const CompanyRecord *>(r)->isPostgreSQL ? "postgresql" : "sqlite"));
+     },
+     nullptr, databaseTypes},
     {"file", ValueType::text, TEXT("Tiedosto"), nullptr, shown, optionalText<CompanyRecord, &CompanyRecord::file>},
     {"host", ValueType::text, TEXT("Palvelin"), nullptr, shown, optionalText<CompanyRecord, &CompanyRecord::host>},
-    {"database", ValueType::text, TEXT("Tietokanta"), nullptr, shown, optionalText<CompanyRecord, &CompanyRecord::database>},
+    {"database", ValueType::text, TEXT("Tietokanta"), nullptr, shown,
+     optionalText<CompanyRecord, &CompanyRecord::database>},
     {"selected", ValueType::flag, TEXT("Valittu"), nullptr, shown, value<&CompanyRecord::isSelected>},
 };
 
 constexpr Field settingFields[] = {
     {"key", ValueType::text, TEXT("Avain"), nullptr, shown | Field::handle, value<&SettingRecord::key>},
     {"value", ValueType::text, TEXT("Arvo"), nullptr, shown, value<&SettingRecord::value>},
-    {"type", ValueType::text, TEXT("Laji"), nullptr, shown, [](const void *r) { return Value(QString::fromLatin1(valueTypeName(static_cast<const SettingRecord *>(r)->type))); }},
+    {"type", ValueType::text, TEXT("Laji"), nullptr, shown,
+     [](const void *r) {
+         return Value(QString::fromLatin1(valueTypeName(static_cast<const SettingRecord *>(r)->type)));
+     }},
     {"description", ValueType::text, TEXT("Selitys"), nullptr, shown, value<&SettingRecord::description>},
 };
 
 constexpr Field layoutFields[] = {
-    {"id", ValueType::id, TEXT("Tunniste"), nullptr, shown, [](const void *r) { return optionalNumber(static_cast<const LayoutRecord *>(r)->id); }},
+    {"id", ValueType::id, TEXT("Tunniste"), nullptr, shown,
+     [](const void *r) { return optionalNumber(static_cast<const LayoutRecord *>(r)->id); }},
     {"type", ValueType::text, TEXT("Laji"), nullptr, shown, value<&LayoutRecord::type>},
     {"name", ValueType::text, TEXT("Nimi"), nullptr, shown | Field::handle, value<&LayoutRecord::name>},
     {"selected", ValueType::flag, TEXT("Valittu"), nullptr, shown, value<&LayoutRecord::isSelected>},
@@ -42,7 +52,8 @@ constexpr Field layoutFields[] = {
 constexpr Field findingFields[] = {
     {"check", ValueType::text, TEXT("Tarkistus"), nullptr, shown, value<&FindingRecord::check>},
     {"table", ValueType::text, TEXT("Taulu"), nullptr, shown, value<&FindingRecord::table>},
-    {"id", ValueType::id, TEXT("Tunniste"), nullptr, shown, [](const void *r) { return optionalNumber(static_cast<const FindingRecord *>(r)->id); }},
+    {"id", ValueType::id, TEXT("Tunniste"), nullptr, shown,
+     [](const void *r) { return optionalNumber(static_cast<const FindingRecord *>(r)->id); }},
     {"message", ValueType::text, TEXT("Havainto"), nullptr, shown | Field::handle, value<&FindingRecord::message>},
 };
 
@@ -63,14 +74,22 @@ constexpr Field importFields[] = {
     {"reference", ValueType::text, TEXT("Viite"), nullptr, shown, value<&P::referenceNumber>},
     {"payerName", ValueType::text, TEXT("Maksaja"), nullptr, shown, value<&P::payerName>},
     {"archiveId", ValueType::text, TEXT("Arkistotunnus"), nullptr, shown, value<&P::archiveId>},
-    {"account", ValueType::id, TEXT("Tilin tunniste"), nullptr, shown, [](const void *r) { return optionalNumber(static_cast<const P *>(r)->bankAccountId); }},
-    {"invoice", ValueType::integer, TEXT("Lasku"), nullptr, shown | Field::handle, [](const void *r) { const P &payment = *static_cast<const P *>(r); return payment.invoiceId < 0 ? Value() : Value(payment.invoiceNumber); }},
-    {"result", ValueType::word, TEXT("Tulos"), nullptr, shown, [](const void *r) { return Value(QString::fromLatin1(results[static_cast<int>(static_cast<const P *>(r)->result)].word)); }, nullptr, results},
+    {"account", ValueType::id, TEXT("Tilin tunniste"), nullptr, shown,
+     [](const void *r) { return optionalNumber(static_cast<const P *>(r)->bankAccountId); }},
+    {"invoice", ValueType::integer, TEXT("Lasku"), nullptr, shown | Field::handle,
+     [](const void *r) {
+         const P &payment = *static_cast<const P *>(r);
+         return payment.invoiceId < 0 ? Value() : Value(payment.invoiceNumber);
+     }},
+    {"result", ValueType::word, TEXT("Tulos"), nullptr, shown,
+     [](const void *r) {
+         return Value(QString::fromLatin1(results[static_cast<int>(static_cast<const P *>(r)->result)].word));
+     },
+     nullptr, results},
     {"message", ValueType::text, TEXT("Syy"), nullptr, shown, value<&P::message>},
 };
 
-template <std::size_t n>
-constexpr RecordTable tableOf(const char *name, const Field (&fields)[n], const char *columns)
+template <std::size_t n> constexpr RecordTable tableOf(const char *name, const Field (&fields)[n], const char *columns)
 {
     return {name, fields, static_cast<int>(n), columns};
 }
@@ -81,4 +100,5 @@ const RecordTable companyTable = tableOf("company", companyFields, "number,type,
 const RecordTable settingTable = tableOf("setting", settingFields, "key,value,description");
 const RecordTable layoutTable = tableOf("layout", layoutFields, "id,type,name,selected");
 const RecordTable findingTable = tableOf("finding", findingFields, "check,table,id,message");
-const RecordTable importTable = tableOf("importedPayment", importFields, "invoice,amount,date,payerName,result,message");
+const RecordTable importTable =
+    tableOf("importedPayment", importFields, "invoice,amount,date,payerName,result,message");
