@@ -1790,6 +1790,10 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
         <translation>Examples</translation>
     </message>
     <message>
+        <source>Paluuarvot</source>
+        <translation>Exit codes</translation>
+    </message>
+    <message>
         <source>billora: laskut, asiakkaat ja suoritukset komentoriviltä</source>
         <translation>billora: invoices, customers and payments on the command line</translation>
     </message>
@@ -1822,12 +1826,8 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
         <translation>Fields (--fields)</translation>
     </message>
     <message>
-        <source>Valinnat joka komennossa: billora help</source>
-        <translation>Options of every command: billora help</translation>
-    </message>
-    <message>
-        <source>Paluuarvot</source>
-        <translation>Exit codes</translation>
+        <source>Katso myös</source>
+        <translation>See also</translation>
     </message>
     <message>
         <source>laskun numero on jo käytössä: %1</source>
@@ -1872,10 +1872,6 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>laskut, asiakkaat ja suoritukset komentoriviltä</source>
         <translation>invoices, customers and payments on the command line</translation>
-    </message>
-    <message>
-        <source>Katso myös</source>
-        <translation>See also</translation>
     </message>
     <message>
         <source>valinnalta %1 puuttuu arvo</source>

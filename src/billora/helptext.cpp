@@ -2,11 +2,13 @@
 
 #include "commandtable.h"
 #include "problem.h"
+#include "records.h"
 #include "texts.h"
 
 #include <QStringList>
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -116,8 +118,25 @@ QString examples(const char *lines)
     QString shown = heading(TEXT("Esimerkkejä"));
     const QStringList list = QString::fromUtf8(lines).split(QLatin1Char('\n'));
     for (const QString &line : list)
-        shown += QStringLiteral("  billora ") + line + QLatin1Char('\n');
+        shown += HelpText::example(line, QStringLiteral("  "));
     return shown;
+}
+
+/** The exit codes that a command has besides those of every command. */
+QString specialExits(const Command &command)
+{
+    const RecordTable *const lookedAt[] = {&findingTable, &importTable, &fileTable};
+    const bool needsLook = std::find(std::begin(lookedAt), std::end(lookedAt), command.result) != std::end(lookedAt);
+    Problem unconfirmed;
+    unconfirmed.code = Problem::needsConfirmation;
+    QString lines;
+    for (int i = 0; i < exitMeaningCount; ++i) {
+        const ExitMeaning &exit = exitMeanings[i];
+        if ((exit.code == exitNeedsLook && needsLook) ||
+            (exit.code == unconfirmed.exitCode() && command.is(Command::destructive)))
+            lines += definition(QString::number(exit.code), text(exit.text), 8);
+    }
+    return lines.isEmpty() ? lines : heading(TEXT("Paluuarvot")) + lines;
 }
 
 QString programHelp()
@@ -141,10 +160,10 @@ QString programHelp()
     }
     help += heading(TEXT("Valinnat joka komennossa"));
     help += optionList(CommandTable::globalOptions());
-    help += QLatin1Char('\n') +
-            text(TEXT("Lisää: billora help KOMENTO tai aihe: %1")).arg(HelpText::topics().join(QLatin1Char(' '))) +
-            QLatin1Char('\n');
-    return help;
+    return help + QLatin1Char('\n') +
+           wrapped(
+               text(TEXT("Lisää: billora help KOMENTO tai aihe: %1")).arg(HelpText::topics().join(QLatin1Char(' '))), 2,
+               0);
 }
 
 QString nounHelp(const QString &noun)
@@ -181,7 +200,10 @@ QString commandHelp(const Command &command)
             names.append(QLatin1String(field.name));
         help += heading(TEXT("Kentät (--fields)")) + wrapped(names.join(QLatin1Char(' ')), 2, 2);
     }
-    return help + QLatin1Char('\n') + text(TEXT("Valinnat joka komennossa: billora help")) + QLatin1Char('\n');
+    help += specialExits(command) + heading(TEXT("Katso myös"));
+    if (CommandTable::nounSummary(command.noun()))
+        help += QStringLiteral("  billora help ") + command.noun() + QLatin1Char('\n');
+    return help + definition(QStringLiteral("billora help"), text(TEXT("Valinnat joka komennossa")), 30);
 }
 
 QString exitCodeHelp()
@@ -203,6 +225,21 @@ QString exitCodeHelp()
 }
 
 } // namespace
+
+QString HelpText::example(const QString &words, const QString &indent)
+{
+    const QString margin = indent + QStringLiteral("    ");
+    QString lines;
+    QString line = indent + QStringLiteral("billora ") + words;
+    while (line.size() > lineWidth) {
+        const int at = line.lastIndexOf(QLatin1String(" --"), lineWidth - 2); // room for the backslash
+        if (at <= margin.size())
+            break;
+        lines += line.left(at) + QStringLiteral(" \\\n");
+        line = margin + line.mid(at + 1);
+    }
+    return lines + line + QLatin1Char('\n');
+}
 
 QString HelpText::placeholder(const Option &option)
 {

@@ -15,6 +15,8 @@ QString of(const QString &topic);
 QString usage(const Command &command);
 /** How the value of an option is shown, `DATE`. */
 QString placeholder(const Option &option);
+/** A command line of the examples, LF included; a long one goes on after a backslash, as a shell reads it. */
+QString example(const QString &words, const QString &indent);
 /** The names of the topics that are no commands. */
 QStringList topics();
 

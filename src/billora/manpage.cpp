@@ -52,7 +52,7 @@ QString examples(const char *lines)
     QString page = QLatin1String(".PP\n.nf\n");
     const QStringList list = QString::fromUtf8(lines).split(QLatin1Char('\n'));
     for (const QString &line : list)
-        page += QLatin1String("billora ") + escaped(line) + QLatin1Char('\n');
+        page += escaped(HelpText::example(line, QString()));
     return page + QLatin1String(".fi\n");
 }
 

@@ -122,6 +122,10 @@ int Program::run(const QStringList &words)
     if (settingsFile.isEmpty())
         settingsFile = qEnvironmentVariable("BILLORA_CONFIG");
     const bool hasHelp = words.isEmpty() || isGiven(line.global, "help");
+    if (!hasHelp && isGiven(line.global, "version")) { // needs no settings
+        print(QStringLiteral("billora " BILLORA_VERSION "\n"));
+        return 0;
+    }
     QString database = line.global.text("db");
     if (database.isEmpty())
         database = qEnvironmentVariable("BILLORA_DB");
@@ -130,10 +134,6 @@ int Program::run(const QStringList &words)
     if (hasHelp) {
         const QString topic = line.command ? QString::fromLatin1(line.command->name) : line.noun;
         print(HelpText::of(topic));
-        return 0;
-    }
-    if (isGiven(line.global, "version")) {
-        print(QStringLiteral("billora " BILLORA_VERSION "\n"));
         return 0;
     }
     if (line.problem.isSet()) { // what was not read of the line may still say how the problem is to be told

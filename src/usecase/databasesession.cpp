@@ -6,6 +6,7 @@
 #include "sqlitedatabase.h"
 #include "usecaselistener.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 
@@ -92,6 +93,10 @@ bool DatabaseSession::openEntry(const QVariantMap &entry)
 {
     closeDatabase();
     m_lostNumber.reset();
+    // Opening would leave an empty file.
+    const QString filename = entry.value(QStringLiteral("filename")).toString();
+    if (!m_isCreating && !filename.isEmpty() && !QFile::exists(filename))
+        return m_listener.fail(Failure::databaseMissing, {filename});
     // A backend reads the keys of a settings object; this one is never written anywhere.
     static const QSettings::Format unwritten = QSettings::registerFormat(
         QStringLiteral("unwritten"), [](QIODevice &, QSettings::SettingsMap &) { return true; },
