@@ -140,6 +140,7 @@ void values(Session &session, const Option &option, const Command &command, cons
         return;
     }
     session.context().session.setTrial(true);
+    session.context().session.setGlance(true);
     if (!session.open())
         return;
     const bool paysInvoice = QLatin1String(command.name) == QLatin1String("payment add");

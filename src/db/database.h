@@ -36,6 +36,8 @@ public:
     bool isCreateIfNotExist() const { return m_createIfNotExist; }
     /** Whether open() upgrades an older schema; it fails otherwise. */
     void setUpgradeAllowed(bool isAllowed) { m_isUpgradeAllowed = isAllowed; }
+    /** A glance opens an SQLite file for reading only and fails at once where another program holds it. */
+    void setGlance(bool isGlance) { m_isGlance = isGlance; }
 
     virtual bool driverAvailable() const = 0;
     /** @return whether the database existed before open() or was created by it */
@@ -105,6 +107,7 @@ protected:
     bool m_createIfNotExist = false;
     bool m_exists = false;
     bool m_isUpgradeAllowed = true;
+    bool m_isGlance = false;
 
 private:
     QString m_lastError;

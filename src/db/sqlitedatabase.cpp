@@ -33,7 +33,8 @@ bool SQLiteDatabase::open(QSettings *settings)
     m_exists = QFile::exists(filename); // before the connection: opening makes the file
     QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connectionName);
     database.setDatabaseName(filename);
-    database.setConnectOptions(QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busyTimeoutMs));
+    database.setConnectOptions(m_isGlance ? QStringLiteral("QSQLITE_BUSY_TIMEOUT=0;QSQLITE_OPEN_READONLY")
+                                          : QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busyTimeoutMs));
     if (!database.open())
         return fail(tr("Tietokantaa %1 ei voi avata: %2").arg(filename, database.lastError().text().trimmed()));
     if (!m_exists) {

@@ -121,6 +121,7 @@ bool DatabaseSession::openAt(QSettings *settings)
     }
     m_database->setCreateIfNotExist(m_isCreating);
     m_database->setUpgradeAllowed(!m_isTrial);
+    m_database->setGlance(m_isGlance);
     const bool opened = m_database->open(settings);
     if (!opened || !m_database->exists()) {
         if (opened)

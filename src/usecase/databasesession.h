@@ -69,6 +69,8 @@ public:
      * upgraded.
      */
     void setTrial(bool isTrial) { m_isTrial = isTrial; }
+    /** Databases opened from now on are looked at only, without waiting for others, see Database::setGlance(). */
+    void setGlance(bool isGlance) { m_isGlance = isGlance; }
     bool isTrial() const { return m_isTrial; }
 
     /**
@@ -102,6 +104,7 @@ private:
     int m_number = -1;        ///< what the open database was asked for by
     bool m_isSuspect = false; ///< a statement failed: the connection may be gone
     bool m_isTrial = false;
+    bool m_isGlance = false;
     bool m_isCreating = false;
     bool m_isEnclosed = false;
     std::optional<int> m_lostNumber; ///< as m_number, of a database whose connection is gone
