@@ -15,7 +15,8 @@
 namespace {
 
 /** An answer longer than this is written in pieces: a long list is not held in memory. */
-constexpr int pieceSize = 32768;
+constexpr int pieceSize = 65536;
+constexpr int roomForRecord = 4096; // that memory is not moved for each
 
 QString csvCell(const QString &cell)
 {
@@ -66,6 +67,7 @@ bool Answer::choose(const RecordTable &table, bool whole, ProblemSink &sink)
 {
     m_table = &table;
     m_fields.clear();
+    m_members.reset();
     if (m_options.fields.isEmpty())
         chooseUsual(table, whole);
     for (const QString &name : qAsConst(m_options.fields)) {
@@ -123,6 +125,7 @@ bool Answer::beginList(const RecordTable &table, ProblemSink &sink)
     if (!choose(table, false, sink))
         return false;
     m_isFirst = true;
+    m_buffer.reserve(pieceSize + roomForRecord);
     if (m_options.quiet)
         return true;
     if (m_options.form == OutputForm::json)
@@ -199,7 +202,9 @@ void Answer::writeRecord(const void *record)
     case OutputForm::jsonl: {
         JsonWriter json(m_buffer);
         json.beginObject();
-        json.members(m_fields, record);
+        if (!m_members)
+            m_members = std::make_unique<JsonMembers>(m_fields);
+        json.members(*m_members, record);
         endMembers(json);
         json.endObject();
         if (m_options.form == OutputForm::jsonl)

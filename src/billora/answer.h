@@ -92,6 +92,7 @@ private:
     const RecordTable *m_table = nullptr;
     QVector<const Field *> m_fields; ///< chosen, in the order of the output
     std::unique_ptr<TableWriter> m_columns;
+    std::unique_ptr<JsonMembers> m_members; ///< of m_fields, made when first needed
     bool m_isFirst = true;
     bool m_wasWritten = false;
     bool m_isReaderGone = false;

@@ -2,7 +2,7 @@
 
 #include "valuewriter.h"
 
-#include <cstring>
+#include <QHash>
 
 void JsonWriter::separate()
 {
@@ -91,43 +91,65 @@ void JsonWriter::member(const char *key, bool value)
     boolean(value);
 }
 
-void JsonWriter::members(const QVector<const Field *> &fields, const void *record)
+void JsonWriter::members(const JsonMembers &members, const void *record)
 {
-    QByteArray open; // the object that is being written, "customer"
-    for (const Field *field : fields) {
-        const char *dot = std::strchr(field->name, '.');
-        const int length = dot ? static_cast<int>(dot - field->name) : 0;
-        if (!open.isEmpty() && (length != open.size() || std::strncmp(field->name, open.constData(), length) != 0)) {
-            endObject();
-            open.clear();
-        }
-        if (dot && open.isEmpty()) {
-            open = QByteArray(field->name, length);
-            name(open.constData());
-            beginObject();
-        }
-        name(dot ? dot + 1 : field->name);
-        const Value value = field->get(record);
-        if (value.kind() != Value::records) {
-            separate();
-            ValueWriter::appendJson(m_target, *field, value);
-            continue;
-        }
-        beginArray();
-        for (const void *nested : value.toRecords())
-            this->record(*field->nested, nested);
-        endArray();
-    }
-    if (!open.isEmpty())
-        endObject();
+    separate();
+    members.append(m_target, record);
 }
 
 void JsonWriter::record(const RecordTable &table, const void *record)
 {
-    QVector<const Field *> all;
-    for (const Field &field : table)
-        all.append(&field);
+    static QHash<const RecordTable *, const JsonMembers *> made; // few, and as long as the program
+    const JsonMembers *&members = made[&table];
+    if (!members) {
+        QVector<const Field *> all;
+        for (const Field &field : table)
+            all.append(&field);
+        members = new JsonMembers(all);
+    }
     beginObject();
-    members(all, record);
+    members->append(m_target, record);
     endObject();
+}
+
+JsonMembers::JsonMembers(const QVector<const Field *> &fields)
+{
+    QByteArray open; // the object that is being written, "customer"
+    bool needsComma = false;
+    for (const Field *field : fields) {
+        const QByteArray name = field->name;
+        const int dot = name.indexOf('.');
+        const QByteArray object = dot < 0 ? QByteArray() : name.left(dot);
+        QByteArray prefix;
+        if (!open.isEmpty() && object != open)
+            prefix += '}';
+        if (needsComma)
+            prefix += ',';
+        if (!object.isEmpty() && object != open)
+            prefix += '"' + object + "\":{";
+        open = object;
+        prefix += '"' + name.mid(dot + 1) + "\":"; // names of fields need no escaping
+        m_members.append({prefix, field});
+        needsComma = true;
+    }
+    if (!open.isEmpty())
+        m_end = "}";
+}
+
+void JsonMembers::append(QByteArray &target, const void *record) const
+{
+    for (const Member &member : m_members) {
+        target += member.prefix;
+        const Value value = member.field->get(record);
+        if (value.kind() != Value::records) {
+            ValueWriter::appendJson(target, *member.field, value);
+            continue;
+        }
+        JsonWriter json(target);
+        json.beginArray();
+        for (const void *nested : value.toRecords())
+            json.record(*member.field->nested, nested);
+        json.endArray();
+    }
+    target += m_end;
 }

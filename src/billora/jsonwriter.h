@@ -6,6 +6,25 @@
 #include <QByteArray>
 #include <QVector>
 
+/** The members that records of a kind have, with what stands in front of each value made once: lists are long. */
+class JsonMembers {
+public:
+    /** @param fields  in the order of the output; those of one object, as `a.b` and `a.c`, stand together */
+    explicit JsonMembers(const QVector<const Field *> &fields);
+
+    /** Appends the members of a record, without the braces around them. */
+    void append(QByteArray &target, const void *record) const;
+
+private:
+    struct Member {
+        QByteArray prefix; ///< up to the value
+        const Field *field;
+    };
+
+    QVector<Member> m_members;
+    QByteArray m_end; ///< behind the last value
+};
+
 /** Appends strict JSON (RFC 8259) in UTF-8 to a buffer, as it is told; nothing is held. */
 class JsonWriter {
 public:
@@ -28,8 +47,8 @@ public:
     void member(const char *key, int value);
     void member(const char *key, bool value);
 
-    /** The chosen fields of a record as members of the current object; `a.b` makes an object `a`. */
-    void members(const QVector<const Field *> &fields, const void *record);
+    /** Fields of a record as members of the current object; `a.b` makes an object `a`. */
+    void members(const JsonMembers &members, const void *record);
     /** An object of all fields of a table. */
     void record(const RecordTable &table, const void *record);
 

@@ -110,9 +110,18 @@ QString ValueWriter::plain(const Field &field, const Value &value)
 
 void ValueWriter::appendJsonString(QByteArray &target, const QString &text)
 {
-    target += '"';
+    // Room for the longest escapes is taken and given back: one call for the whole text, as lists are long.
+    constexpr int longest = 6;
+    const int before = target.size();
+    target.resize(before + text.size() * longest + 2);
+    char *const begin = target.data();
+    char *to = begin + before;
+    *to++ = '"';
     const ushort *unit = text.utf16();
     const ushort *end = unit + text.size();
+    for (; unit < end && *unit >= 32 && *unit < 127 && *unit != '"' && *unit != '\\'; ++unit)
+        *to++ = static_cast<char>(*unit);
+    target.resize(static_cast<int>(to - begin));
     for (; unit < end; ++unit) {
         if (*unit < 0x80) {
             if (*unit >= 32 && *unit != '"' && *unit != '\\' && *unit != 127)
@@ -129,6 +138,65 @@ void ValueWriter::appendJsonString(QByteArray &target, const QString &text)
     target += '"';
 }
 
+namespace {
+
+/** Writes digits from the right. @return the first of them */
+char *writeDigits(char *end, unsigned long long number, int least)
+{
+    char *at = end;
+    for (; number > 0 || least > 0; --least, number /= 10)
+        *--at = static_cast<char>('0' + number % 10);
+    return at;
+}
+
+void appendInteger(QByteArray &target, long long number)
+{
+    char buffer[32];
+    char *const end = buffer + sizeof buffer;
+    const bool isNegative = number < 0;
+    char *at = writeDigits(end, isNegative ? 0ULL - static_cast<unsigned long long>(number) : number, 1);
+    if (isNegative)
+        *--at = '-';
+    target.append(at, static_cast<int>(end - at));
+}
+
+/** Sums are most of all numbers: two decimals, quoted. */
+void appendCents(QByteArray &target, long long cents)
+{
+    char buffer[40];
+    char *const end = buffer + sizeof buffer;
+    const bool isNegative = cents < 0;
+    const unsigned long long magnitude = isNegative ? 0ULL - static_cast<unsigned long long>(cents) : cents;
+    char *at = end;
+    *--at = '"';
+    at = writeDigits(at, magnitude % 100, 2);
+    *--at = '.';
+    at = writeDigits(at, magnitude / 100, 1);
+    if (isNegative)
+        *--at = '-';
+    *--at = '"';
+    target.append(at, static_cast<int>(end - at));
+}
+
+void appendDate(QByteArray &target, const QDate &date)
+{
+    char buffer[16];
+    char *const end = buffer + sizeof buffer;
+    int year = 0, month = 0, day = 0;
+    date.getDate(&year, &month, &day);
+    char *at = end;
+    *--at = '"';
+    at = writeDigits(at, static_cast<unsigned>(day), 2);
+    *--at = '-';
+    at = writeDigits(at, static_cast<unsigned>(month), 2);
+    *--at = '-';
+    at = writeDigits(at, static_cast<unsigned>(year), 4);
+    *--at = '"';
+    target.append(at, static_cast<int>(end - at));
+}
+
+} // namespace
+
 void ValueWriter::appendJson(QByteArray &target, const Field &field, const Value &value)
 {
     switch (value.kind()) {
@@ -136,16 +204,21 @@ void ValueWriter::appendJson(QByteArray &target, const Field &field, const Value
         appendJsonString(target, value.toText());
         return;
     case Value::number:
-        if (isDecimal(field.type))
+        if (field.type == ValueType::money)
+            appendCents(target, value.toNumber());
+        else if (isDecimal(field.type))
             target += '"' + plain(field, value).toLatin1() + '"';
         else
-            target += QByteArray::number(value.toNumber());
+            appendInteger(target, value.toNumber());
         return;
     case Value::boolean:
         target += value.toBool() ? "true" : "false";
         return;
     case Value::date:
-        target += '"' + plain(field, value).toLatin1() + '"';
+        if (value.toDate().year() >= 0 && value.toDate().year() <= 9999)
+            appendDate(target, value.toDate());
+        else
+            target += '"' + plain(field, value).toLatin1() + '"';
         return;
     case Value::null:
     case Value::records:

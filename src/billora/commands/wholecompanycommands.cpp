@@ -292,7 +292,7 @@ bool status(Task &task)
             QVector<const Field *> fields;
             for (const Field &field : companyTable)
                 fields.append(&field);
-            json.members(fields, &record);
+            json.members(JsonMembers(fields), &record);
             json.member("name", name);
             json.endObject();
             sums(json, "open", openCount, open);

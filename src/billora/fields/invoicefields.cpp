@@ -13,10 +13,20 @@ constexpr unsigned edited = Field::editable;
 
 const R &of(const void *record) { return *static_cast<const R *>(record); }
 
+/** The words of choices as texts, made once: lists are long. */
+QVector<QString> wordsOf(const Choice *choices)
+{
+    QVector<QString> words;
+    for (; choices->word; ++choices)
+        words.append(QLatin1String(choices->word));
+    return words;
+}
+
 Value type(const void *record)
 {
+    static const QVector<QString> words = wordsOf(invoiceTypes);
     const int type = of(record).invoice.type;
-    return type >= 0 && type < Invoice::typeCount ? Value(QString::fromLatin1(invoiceTypes[type].word)) : Value();
+    return type >= 0 && type < words.size() ? Value(words.at(type)) : Value();
 }
 
 Value customerName(const void *record)
@@ -26,9 +36,9 @@ Value customerName(const void *record)
 
 Value state(const void *record)
 {
+    static const QVector<QString> words = wordsOf(invoiceStates);
     const Invoice &invoice = of(record).invoice;
-    return Value(QString::fromLatin1(
-        InvoiceState::word(InvoiceState::of(invoice.totalAmount, invoice.balance, invoice.dueDate, of(record).today))));
+    return Value(words.at(InvoiceState::of(invoice.totalAmount, invoice.balance, invoice.dueDate, of(record).today)));
 }
 
 Value paid(const void *record)
