@@ -300,6 +300,38 @@
         <translation>delivery note</translation>
     </message>
     <message>
+        <source>Finvoice 3.0, EN 16931</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Peppol BIS Billing 3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kaikki</source>
+        <translation>all</translation>
+    </message>
+    <message>
+        <source>muoto, johon lasku aiotaan viedä; muuten asiakkaan tai yrityksen oma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>virhe</source>
+        <translation>error</translation>
+    </message>
+    <message>
+        <source>varoitus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>huomautus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Laskut ovat valmiita lähetettäviksi.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>PDF</source>
         <translation>PDF</translation>
     </message>
@@ -312,8 +344,8 @@
         <translation>Finvoice 1.3</translation>
     </message>
     <message>
-        <source>kaikki</source>
-        <translation>all</translation>
+        <source>asiakkaan tai yrityksen oma verkkolaskumuoto</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>asiakirjan laji, jos muu kuin laskun oma</source>
@@ -352,6 +384,10 @@
         <translation>%1 (line %2)</translation>
     </message>
     <message>
+        <source>Laskua %1 ei viety: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>luettelo laskuista</source>
         <translation>lists invoices</translation>
     </message>
@@ -378,6 +414,10 @@
     <message>
         <source>hyvityslasku, joka viittaa alkuperäiseen</source>
         <translation>a credit note that refers to its original</translation>
+    </message>
+    <message>
+        <source>tarkistaa, voiko laskut lähettää verkkolaskuina</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>laskut tiedostoiksi: PDF, Finvoice tai CSV</source>
@@ -1400,10 +1440,6 @@ Overdue %4 invoices, %5</translation>
         <translation>several invoices</translation>
     </message>
     <message>
-        <source>virhe</source>
-        <translation>error</translation>
-    </message>
-    <message>
         <source>Rivi</source>
         <translation>Row</translation>
     </message>
@@ -1500,6 +1536,86 @@ Overdue %4 invoices, %5</translation>
         <translation>the intermediator's code</translation>
     </message>
     <message>
+        <source>Osoitteen laji</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>verkkolaskuosoitteen laji (EAS), jos se ei selviä osoitteesta</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Verkkolaskun muoto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ostajan viite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>viite laskuille, joilla ei ole omaa</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maakoodi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ISO 3166, jos maan nimeä ei tunneta</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Veroluokka</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>veroluokka riveille, joiden vero on 0 %: AE K G E O Z</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Verottomuuden syy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Verottomuuden koodi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>verottomuuden syyn koodi (VATEX)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Toimitus: nimi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Toimitus: katuosoite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Toimitus: postinumero</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Toimitus: postitoimipaikka</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Toimitus: maa</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sopimusnumero</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tiliöintiviite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ostajan tiliöintiviite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Avoimia laskuja</source>
         <translation>Open invoices</translation>
     </message>
@@ -1510,6 +1626,30 @@ Overdue %4 invoices, %5</translation>
     <message>
         <source>Virhe</source>
         <translation>Error</translation>
+    </message>
+    <message>
+        <source>Sääntö</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vakavuus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tieto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standardin EN 16931 tieto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kenttä</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>missä tieto korjataan</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>laskun numero; seuraava, jos sitä ei anneta</source>
@@ -1586,6 +1726,50 @@ Overdue %4 invoices, %5</translation>
     <message>
         <source>myyjän viite</source>
         <translation>the seller's reference</translation>
+    </message>
+    <message>
+        <source>Tilausnumero</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ostajan tilausnumero</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Projektinumero</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hyvitettävä lasku</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hyvitettävän laskun numero</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hyvitettävän päivä</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hyvitettävän laskun päivä</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kausi alkaa</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>laskutuskauden alku</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kausi päättyy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>laskutuskauden loppu</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Verokannat</source>
@@ -2054,6 +2238,18 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
         <translation>country</translation>
     </message>
     <message>
+        <source>verkkolaskun muoto: finvoice, finvoice3 tai peppol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>omat yksiköt: teksti=koodi, pilkuin erotettuina</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>verottomuuden syy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>vastaanottajan oletusosoite Finvoicessa</source>
         <translation>default address of receivers in Finvoice</translation>
     </message>
@@ -2072,6 +2268,10 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>yrityksen verkkolaskuosoite</source>
         <translation>the company's e-invoice address</translation>
+    </message>
+    <message>
+        <source>yrityksen verkkolaskuosoitteen laji (EAS)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>tulostetaanko viivakoodi</source>
@@ -2108,6 +2308,26 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>valitun laskupohjan tunniste</source>
         <translation>id of the selected layout</translation>
+    </message>
+    <message>
+        <source>tilin haltijan nimi</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>myyjän yhteyshenkilö</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>myyjän oikeudelliset tiedot, kuten Ennakkoperintärekisterissä</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>veroviranomaisen tunnus, jos ALV-numeroa ei ole</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>aputoiminimi</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>ALV-numero</source>
@@ -2272,6 +2492,30 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>teksti, jonka jokin kenttä sisältää; kirjainkoolla ei ole väliä</source>
         <translation>text that a field contains, letter case aside</translation>
+    </message>
+    <message>
+        <source>käännetty verovelvollisuus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>yhteisömyynti</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>vientimyynti</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>veroton</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>veron ulkopuolella</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nollavero</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>laskujen numeroita ja välejä: 1001 1010-1020 1030-; - lukee lisää</source>

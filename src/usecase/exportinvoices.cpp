@@ -1,12 +1,18 @@
 #include "exportinvoices.h"
 
 #include "customer.h"
+#include "einvoicebuilder.h"
 #include "exportfilename.h"
 #include "exporttools.h"
+#include "finvoice3writer.h"
+#include "outputfile.h"
 #include "pdfprinter.h"
 #include "printscript.h"
 #include "printscriptmanager.h"
 #include "scriptloader.h"
+#include "settings.h"
+#include "soapenvelope.h"
+#include "ublwriter.h"
 #include "xmlscriptmanager.h"
 #include "xmlscriptmodel.h"
 
@@ -103,7 +109,7 @@ bool writeInvoices(UseCaseContext &context, const Request &request, const QStrin
         if (request.isTrial || request.makesFolders) {
             const QString name = ExportFileName::make(form, invoice, customer, request.printType);
             if (request.isTrial) {
-                files.append({name, invoice.id, invoice.number, {}});
+                files.append({name, invoice.id, invoice.number, {}, {}});
                 continue;
             }
             QDir().mkpath(QFileInfo(name).path());
@@ -116,7 +122,7 @@ bool writeInvoices(UseCaseContext &context, const Request &request, const QStrin
         if (!host.lastError().isEmpty())
             return ExportTools::failWriting(context, name, host.lastError());
         files.append(
-            {name, invoice.id, invoice.number, host.hasException() ? ExportTools::exception(host) : QStringList()});
+            {name, invoice.id, invoice.number, host.hasException() ? ExportTools::exception(host) : QStringList(), {}});
         if (request.progress)
             request.progress(i + 1, all.invoiceCount());
     }
@@ -167,6 +173,78 @@ bool writeFinvoices(UseCaseContext &context, const Request &request, const QStri
     return writeInvoices<XmlScriptModel>(context, request, form, all, manager, write, files);
 }
 
+constexpr struct {
+    const char *name;
+    PrintFormat format;
+} einvoiceFormats[] = {{"finvoice", finvoiceFormat}, {"finvoice3", finvoice3Format}, {"peppol", peppolFormat}};
+
+/** The e-invoice format of an invoice: the customer's, else the company's, else Finvoice 3.0. */
+PrintFormat formatOf(const Settings &settings, const Customer &customer)
+{
+    QString name = customer.property(QStringLiteral("bt-format")).toString();
+    if (name.isEmpty())
+        name = settings.property(QStringLiteral("einvoice/format")).toString();
+    for (const auto &known : einvoiceFormats) {
+        if (name == QLatin1String(known.name))
+            return known.format;
+    }
+    return finvoice3Format;
+}
+
+EInvoice::Document documentOf(const InvoicePrintModel &model, const Invoice &invoice, int printType)
+{
+    static const Customer unknown;
+    const Customer *customer = model.customer(invoice);
+    const QString kind = printType == InvoicePrintModel::reminder       ? QStringLiteral("maksumuistutus")
+                         : printType == InvoicePrintModel::receipt      ? QStringLiteral("kuitti")
+                         : printType == InvoicePrintModel::deliveryNote ? QStringLiteral("lähetyslista")
+                                                                        : QString();
+    return EInvoice::build({invoice, model.items(invoice), customer ? *customer : unknown, *model.settings(),
+                            model.visibleBankAccounts(), kind});
+}
+
+bool writeEInvoices(UseCaseContext &context, const Request &request, PrintFormat format, InvoicePrintModel &all,
+                    QVector<File> &files)
+{
+    XmlScriptModel single(&context.session.registry()); // for the envelope
+    for (int i = 0; i < all.invoiceCount(); ++i) {
+        const Invoice &invoice = *all.invoice(i);
+        const Customer *customer = all.customer(invoice);
+        const PrintFormat own =
+            format == einvoiceFormat ? formatOf(*all.settings(), customer ? *customer : Customer()) : format;
+        const EInvoice::Document document = documentOf(all, invoice, request.printType);
+        File file;
+        file.invoiceId = invoice.id;
+        file.invoiceNumber = invoice.number;
+        file.findings = EInvoice::check(document, own == peppolFormat ? EInvoice::peppol : EInvoice::finvoice3);
+        if (EInvoice::hasError(file.findings)) {
+            files.append(file);
+            continue;
+        }
+        const QString form = request.fileName.isEmpty() ? QStringLiteral("lasku-$i.xml") : request.fileName;
+        file.fileName = ExportFileName::make(form, invoice, customer, request.printType);
+        if (!request.isTrial) {
+            if (request.makesFolders)
+                QDir().mkpath(QFileInfo(file.fileName).path());
+            const ReservedName reserved(form, invoice, customer, request.printType);
+            file.fileName = reserved.name();
+            OutputFile output(file.fileName);
+            QByteArray bytes = own == peppolFormat ? EInvoice::writeUbl(document) : EInvoice::writeFinvoice3(document);
+            if (own == finvoice3Format && request.writeSoap) {
+                single.clear();
+                single.copyInvoice(&all, i);
+                bytes.prepend(SoapEnvelope::create(&single));
+            }
+            if (!output.open() || output.device()->write(bytes) != bytes.size() || !output.commit())
+                return ExportTools::failWriting(context, file.fileName, output.errorString());
+        }
+        files.append(file);
+        if (request.progress)
+            request.progress(i + 1, all.invoiceCount());
+    }
+    return true;
+}
+
 bool writeCsv(UseCaseContext &context, const Request &request, const QString &name, InvoicePrintModel &model,
               QVector<File> &files)
 {
@@ -176,25 +254,56 @@ bool writeCsv(UseCaseContext &context, const Request &request, const QString &na
         if (!model.exportToCSV(name, request.csvDelimiter))
             return ExportTools::failWriting(context, name, model.lastError());
     }
-    files.append({name, -1, 0, {}});
+    files.append({name, -1, 0, {}, {}});
     return true;
 }
 
 } // namespace
+
+namespace {
+
+/** Reads the invoices of the criteria with all that documents show. */
+bool load(UseCaseContext &context, const InvoiceCriteria &criteria, InvoicePrintModel &model)
+{
+    criteria.copy(model.criteria());
+    if (!ExportTools::runModel(context, model))
+        return false;
+    QSet<int> customers;
+    for (int i = 0; i < model.invoiceCount(); ++i)
+        customers.insert(model.invoice(i)->customerId);
+    return context.session.fetchCustomers(customers);
+}
+
+} // namespace
+
+bool ExportInvoices::check(UseCaseContext &context, const InvoiceCriteria &criteria, std::optional<PrintFormat> format,
+                           QVector<Checked> &checked)
+{
+    if (!context.session.fetch(CachedList::settings) || !context.session.fetch(CachedList::bankAccounts))
+        return false;
+    InvoicePrintModel model(&context.session.registry());
+    if (!load(context, criteria, model))
+        return false;
+    for (int i = 0; i < model.invoiceCount(); ++i) {
+        const Invoice &invoice = *model.invoice(i);
+        const Customer *customer = model.customer(invoice);
+        Checked one;
+        one.invoiceNumber = invoice.number;
+        one.format = format.value_or(formatOf(*model.settings(), customer ? *customer : Customer()));
+        const EInvoice::Document document = documentOf(model, invoice, InvoicePrintModel::ownType);
+        one.findings = EInvoice::check(document, one.format == peppolFormat ? EInvoice::peppol : EInvoice::finvoice3);
+        checked.append(one);
+    }
+    return true;
+}
 
 bool ExportInvoices::run(UseCaseContext &context, const Request &request, QVector<File> &files)
 {
     if (!context.session.fetch(CachedList::settings) || !context.session.fetch(CachedList::bankAccounts))
         return false;
     InvoicePrintModel model(&context.session.registry());
-    request.criteria.copy(model.criteria());
     model.setPrintType(request.printType);
-    if (!ExportTools::runModel(context, model))
-        return false;
-    QSet<int> customers;
-    for (int i = 0; i < model.invoiceCount(); ++i)
-        customers.insert(model.invoice(i)->customerId);
-    if (!context.session.fetchCustomers(customers))
+    if (!load(context, request.criteria, model))
         return false;
     const PrintFormat format = request.format.value_or(ExportTools::guessFormat(request.fileName, true));
     const auto form = [&request](const char *usual) {
@@ -205,6 +314,10 @@ bool ExportInvoices::run(UseCaseContext &context, const Request &request, QVecto
         return writeCsv(context, request, form("laskut.csv"), model, files);
     case finvoiceFormat:
         return writeFinvoices(context, request, form("lasku-$i.xml"), model, files);
+    case finvoice3Format:
+    case peppolFormat:
+    case einvoiceFormat:
+        return writeEInvoices(context, request, format, model, files);
     default:
         return printInvoices(context, request, form("lasku-$i.pdf"), model, files);
     }

@@ -1,6 +1,7 @@
 #ifndef EXPORTINVOICES_H
 #define EXPORTINVOICES_H
 
+#include "einvoicerules.h"
 #include "invoicecriteria.h"
 #include "invoiceprintmodel.h"
 #include "printformat.h"
@@ -36,7 +37,24 @@ struct File {
     int invoiceNumber = 0;
     /** What the script threw while it wrote: text and line (Failure::scriptException); empty for none. */
     QStringList exception;
+    /** Of an e-invoice: with an error among them nothing was written. */
+    QVector<EInvoice::Finding> findings;
 };
+
+/** An invoice looked at before it is sent. */
+struct Checked {
+    int invoiceNumber = 0;
+    PrintFormat format = finvoice3Format;
+    QVector<EInvoice::Finding> findings;
+};
+
+/**
+ * Checks invoices by the rules of an e-invoice.
+ * @param format  else the one that the customer or the company is set to
+ * @return false with the failure told
+ */
+[[nodiscard]] bool check(UseCaseContext &context, const InvoiceCriteria &criteria, std::optional<PrintFormat> format,
+                         QVector<Checked> &checked);
 
 /** @return false with the failure told; files that were written before stay */
 [[nodiscard]] bool run(UseCaseContext &context, const Request &request, QVector<File> &files);

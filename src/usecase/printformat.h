@@ -2,6 +2,13 @@
 #define PRINTFORMAT_H
 
 /** What kind of file an export writes. */
-enum PrintFormat { pdfFormat = 0, csvFormat = 1, finvoiceFormat = 2 };
+enum PrintFormat {
+    pdfFormat = 0,
+    csvFormat = 1,
+    finvoiceFormat = 2,  ///< 1.3, by a script
+    finvoice3Format = 3, ///< with the marker of EN 16931
+    peppolFormat = 4,    ///< UBL 2.1 by Peppol BIS Billing 3
+    einvoiceFormat = 5,  ///< the one of the last three that the customer or the company is set to
+};
 
 #endif

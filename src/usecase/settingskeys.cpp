@@ -1,6 +1,7 @@
 #include "settingskeys.h"
 
 #include "customer.h"
+#include "einvoicecodes.h"
 #include "integer.h"
 #include "registry.h"
 #include "settings.h"
@@ -71,12 +72,35 @@ constexpr SellerField sellerFields[] = {
     {"sellerBusinessId", &Settings::sellerBusinessId, isBusinessId},
 };
 
+bool isEInvoiceFormat(const QString &value)
+{
+    return value == QLatin1String("finvoice") || value == QLatin1String("finvoice3") ||
+           value == QLatin1String("peppol");
+}
+
+bool isZeroVatCategory(const QString &value)
+{
+    static const QStringList known = {QStringLiteral("AE"), QStringLiteral("K"), QStringLiteral("G"),
+                                      QStringLiteral("E"),  QStringLiteral("O"), QStringLiteral("Z")};
+    return known.contains(value);
+}
+
+bool isReasonCode(const QString &value) { return EInvoiceCodes::contains("vatex", value); }
+
+bool isScheme(const QString &value) { return EInvoiceCodes::contains("eas", value); }
+
 constexpr PropertyKey propertyKeys[] = {
+    {"einvoice/format", isEInvoiceFormat},
+    {"einvoice/units", anything},
+    {"einvoice/zeroVatCategory", isZeroVatCategory},
+    {"einvoice/zeroVatReason", anything},
+    {"einvoice/zeroVatReasonCode", isReasonCode},
     {"finvoice/defaultReceiverId", anything},
     {"finvoice/edi", anything},
     {"finvoice/epiInstructionId", anything},
     {"finvoice/intermediatorId", anything},
     {"finvoice/senderId", anything},
+    {"finvoice/senderScheme", isScheme},
     {"invoiceForm/barcodeVisible", isBoolean},
     {"invoiceForm/invoiceItemOptions", isInteger},
     {"invoiceForm/language", isLanguage},
@@ -86,8 +110,13 @@ constexpr PropertyKey propertyKeys[] = {
     {"invoiceForm/reminderText", anything},
     {"invoiceForm/roundingMode", isRoundingMode},
     {"printScripts/invoice", isInteger},
+    {"seller/accountName", anything},
+    {"seller/contactName", anything},
     {"seller/emailAddress", anything},
+    {"seller/legalInfo", anything},
     {"seller/phoneNumber", anything},
+    {"seller/taxRegistration", anything},
+    {"seller/tradeName", anything},
     {"seller/vatNumber", isVatNumber},
     {"seller/webAddress", anything},
     {"settings/interestOnArrears", isNotNegative},

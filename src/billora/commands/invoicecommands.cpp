@@ -7,6 +7,7 @@
 #include "invoicewriter.h"
 #include "jsonarguments.h"
 #include "jsonwriter.h"
+#include "language.h"
 #include "optionparser.h"
 #include "printscript.h"
 #include "progressbar.h"
@@ -420,22 +421,6 @@ constexpr Choice documentKinds[] = {{"reminder", TEXT("maksumuistutus")},
                                     {"delivery-note", TEXT("lähetyslista")},
                                     {nullptr, nullptr}};
 constexpr int printTypes[] = {InvoicePrintModel::reminder, InvoicePrintModel::receipt, InvoicePrintModel::deliveryNote};
-constexpr Choice formats[] = {{"pdf", TEXT("PDF")},
-                              {"csv", TEXT("CSV, kaikki yhteen tiedostoon")},
-                              {"finvoice", TEXT("Finvoice 1.3")},
-                              {nullptr, nullptr}};
-
-constexpr Option exportOptions[] = {
-    {"all", ValueType::flag, TEXT("kaikki")},
-    {"as", ValueType::word, TEXT("asiakirjan laji, jos muu kuin laskun oma"), 0, documentKinds},
-    {"format", ValueType::word, TEXT("tiedoston muoto; muuten nimen mukaan"), 0, formats},
-    {"layout", ValueType::layout, TEXT("laskupohja, jos muu kuin valittu")},
-    {"soap", ValueType::flag, TEXT("Finvoice välitysotsikoineen")},
-    {"output", ValueType::file, TEXT("tiedoston nimi; $i on laskun ja $n asiakkaan nimi tai numero, - on vakiotuloste"),
-     0, nullptr, 'o', "PATTERN"},
-    {"csvDelimiter", ValueType::text, TEXT("CSV-tiedoston erotin")},
-};
-
 bool readChoice(Task &task, const char *name, const Choice *choices, int &index)
 {
     QString word;
@@ -450,13 +435,92 @@ bool readChoice(Task &task, const char *name, const Choice *choices, int &index)
     return true;
 }
 
+constexpr Choice checkFormats[] = {
+    {"finvoice3", TEXT("Finvoice 3.0, EN 16931")}, {"peppol", TEXT("Peppol BIS Billing 3")}, {nullptr, nullptr}};
+constexpr Option checkOptions[] = {
+    {"all", ValueType::flag, TEXT("kaikki")},
+    {"for", ValueType::word, TEXT("muoto, johon lasku aiotaan viedä; muuten asiakkaan tai yrityksen oma"), 0,
+     checkFormats},
+};
+
+constexpr Choice severities[] = {{"error", TEXT("virhe"), "31"},
+                                 {"warning", TEXT("varoitus"), "33"},
+                                 {"note", TEXT("huomautus")},
+                                 {nullptr, nullptr}};
+
+CheckRecord recordOf(int invoiceNumber, const EInvoice::Finding &finding)
+{
+    CheckRecord record;
+    record.invoiceNumber = invoiceNumber;
+    record.rule = QLatin1String(finding.rule);
+    record.severity = QLatin1String(severities[static_cast<int>(finding.severity)].word);
+    record.term = QLatin1String(finding.term);
+    record.field = QLatin1String(finding.field);
+    record.message = Language::current() == Language::english ? finding.english : finding.finnish;
+    return record;
+}
+
+bool checkInvoices(Task &task)
+{
+    auto selection = std::make_shared<InvoiceSelection>();
+    int format = -1;
+    if (!Selection::readInvoices(task, *selection, true) || !readChoice(task, "for", checkFormats, format))
+        return false;
+    InvoiceCriteria criteria;
+    criteria.selection = selection;
+    std::optional<PrintFormat> wanted;
+    if (format >= 0)
+        wanted = format == 0 ? finvoice3Format : peppolFormat;
+    QVector<ExportInvoices::Checked> checked;
+    if (!ExportInvoices::check(task.context(), criteria, wanted, checked) ||
+        !task.answer.beginList(checkTable, task.session))
+        return false;
+    int count = 0;
+    for (const ExportInvoices::Checked &one : qAsConst(checked)) {
+        for (const EInvoice::Finding &finding : one.findings) {
+            const CheckRecord record = recordOf(one.invoiceNumber, finding);
+            task.answer.add(&record);
+            ++count;
+            if (finding.severity == EInvoice::Severity::error)
+                task.exitCode = exitNeedsLook;
+        }
+    }
+    task.answer.endList();
+    if (checked.isEmpty())
+        return task.fail(Problem::notFound, text(TEXT("yhtään laskua ei löytynyt")), QStringLiteral("invoices"));
+    if (count == 0 && task.answer.options().isTerminal && task.answer.wantsSentences())
+        task.answer.line(text(TEXT("Laskut ovat valmiita lähetettäviksi.")));
+    return true;
+}
+
+constexpr Choice formats[] = {{"pdf", TEXT("PDF")},
+                              {"csv", TEXT("CSV, kaikki yhteen tiedostoon")},
+                              {"finvoice", TEXT("Finvoice 1.3")},
+                              {"finvoice3", TEXT("Finvoice 3.0, EN 16931")},
+                              {"peppol", TEXT("Peppol BIS Billing 3")},
+                              {"einvoice", TEXT("asiakkaan tai yrityksen oma verkkolaskumuoto")},
+                              {nullptr, nullptr}};
+
+constexpr Option exportOptions[] = {
+    {"all", ValueType::flag, TEXT("kaikki")},
+    {"as", ValueType::word, TEXT("asiakirjan laji, jos muu kuin laskun oma"), 0, documentKinds},
+    {"format", ValueType::word, TEXT("tiedoston muoto; muuten nimen mukaan"), 0, formats},
+    {"layout", ValueType::layout, TEXT("laskupohja, jos muu kuin valittu")},
+    {"soap", ValueType::flag, TEXT("Finvoice välitysotsikoineen")},
+    {"output", ValueType::file, TEXT("tiedoston nimi; $i on laskun ja $n asiakkaan nimi tai numero, - on vakiotuloste"),
+     0, nullptr, 'o', "PATTERN"},
+    {"csvDelimiter", ValueType::text, TEXT("CSV-tiedoston erotin")},
+};
+
 /** A single document onto standard output, by way of a folder of its own. */
 bool exportToOutput(Task &task, ExportInvoices::Request request)
 {
     QTemporaryDir folder;
     if (!folder.isValid())
         return task.fail(Problem::file, folder.errorString());
-    const char *suffix = request.format == finvoiceFormat ? "xml" : request.format == csvFormat ? "csv" : "pdf";
+    const char *suffix = request.format == csvFormat                            ? "csv"
+                         : request.format.value_or(pdfFormat) >= finvoiceFormat ? "xml"
+                                                                                : "pdf";
     request.fileName = folder.filePath(QLatin1String("document.") + QLatin1String(suffix));
     QVector<ExportInvoices::File> files;
     if (!ExportInvoices::run(task.context(), request, files))
@@ -464,6 +528,10 @@ bool exportToOutput(Task &task, ExportInvoices::Request request)
     if (files.size() != 1)
         return task.fail(Problem::rule, text(TEXT("vakiotulosteeseen mahtuu yksi asiakirja, ei %1")).arg(files.size()),
                          QStringLiteral("output"));
+    if (EInvoice::hasError(files.first().findings)) {
+        const CheckRecord reason = recordOf(files.first().invoiceNumber, files.first().findings.first());
+        return task.fail(Problem::rule, reason.rule + QLatin1String(": ") + reason.message, reason.field);
+    }
     if (!files.first().exception.isEmpty())
         return task.session.fail(Failure::scriptException, files.first().exception);
     QFile file(files.first().fileName);
@@ -539,13 +607,27 @@ bool exportDocuments(Task &task)
         FileRecord record;
         record.fileName = file.fileName;
         record.invoiceNumber = file.invoiceId < 0 ? -1 : file.invoiceNumber;
+        if (EInvoice::hasError(file.findings)) {
+            QStringList reasons;
+            for (const EInvoice::Finding &finding : file.findings) {
+                if (finding.severity == EInvoice::Severity::error) {
+                    const CheckRecord reason = recordOf(file.invoiceNumber, finding);
+                    reasons.append(reason.rule + QLatin1String(": ") + reason.message);
+                }
+            }
+            record.error = reasons.join(QLatin1String("; "));
+            task.exitCode = exitNeedsLook;
+        }
         if (!file.exception.isEmpty()) {
             record.error = text(TEXT("%1 (rivi %2)")).arg(file.exception.at(0), file.exception.at(1));
             task.exitCode = exitNeedsLook;
         }
         if (isPlain)
-            task.answer.line(record.error.isEmpty() ? record.fileName
-                                                    : record.fileName + QLatin1String("  ") + record.error);
+            task.answer.line(
+                record.fileName.isEmpty()
+                    ? text(TEXT("Laskua %1 ei viety: %2")).arg(QString::number(record.invoiceNumber), record.error)
+                : record.error.isEmpty() ? record.fileName
+                                         : record.fileName + QLatin1String("  ") + record.error);
         else
             task.answer.add(&record);
     }
@@ -619,6 +701,15 @@ constexpr Command commands[] = {
      {group(creditWords)},
      "invoice credit 1001\n"
      "invoice credit 1001 --only 1,3"},
+    {"invoice check",
+     TEXT("tarkistaa, voiko laskut lähettää verkkolaskuina"),
+     checkInvoices,
+     Command::lists,
+     &checkTable,
+     nullptr,
+     {group(Selection::invoiceWords), group(Selection::invoiceFilters), group(checkOptions)},
+     "invoice check 1001\n"
+     "invoice check --open --for peppol"},
     {"invoice export",
      TEXT("laskut tiedostoiksi: PDF, Finvoice tai CSV"),
      exportDocuments,

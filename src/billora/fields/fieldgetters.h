@@ -2,6 +2,7 @@
 #define FIELDGETTERS_H
 
 #include "field.h"
+#include "valuereader.h"
 
 #include <functional>
 
@@ -25,6 +26,34 @@ template <class Record, class Type, Type Record::*member> struct Getter<member> 
 };
 /** The value of the record's own member. */
 template <auto member> constexpr auto value = &Getter<member>::get;
+
+/** A property of a part that is a PropertyMap: empty when it has none. */
+template <auto part, const char *key> struct PropertyOf;
+template <class Record, class Part, Part Record::*part, const char *key> struct PropertyOf<part, key> {
+    static Value get(const void *record)
+    {
+        return Value((static_cast<const Record *>(record)->*part).property(QLatin1String(key)).toString());
+    }
+    static bool set(void *record, const ValueReader &reader, const Field &field, const QString &value)
+    {
+        QString text;
+        if (!value.isEmpty() && field.choices) {
+            if (!reader.word(field.name, field.choices, value, text))
+                return false;
+        } else if (!value.isEmpty() && field.type == ValueType::date) {
+            QDate date;
+            if (!reader.date(field.name, value, date))
+                return false;
+            text = date.toString(Qt::ISODate);
+        } else if (!reader.text(field.name, field.type, value, text)) {
+            return false;
+        }
+        static_cast<Part *>(record)->setPropertyIfNotEmpty(QLatin1String(key), text);
+        return true;
+    }
+    /** A date that is stored as a text. */
+    static Value getDate(const void *record) { return Value(QDate::fromString(get(record).toText(), Qt::ISODate)); }
+};
 
 /** The addresses of a list of nested records. */
 template <class Record> Value recordsOf(const QVector<Record> &list)

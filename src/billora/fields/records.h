@@ -91,6 +91,12 @@ struct FindingRecord {
     int id = -1; ///< -1: about no single record
 };
 
+/** What a rule of e-invoices found in an invoice. */
+struct CheckRecord {
+    int invoiceNumber = 0;
+    QString rule, severity, term, field, message;
+};
+
 /** The words of invoice types, in the order of Invoice::Type; null ends them. */
 extern const Choice invoiceTypes[];
 extern const Choice invoiceStates[];
@@ -103,6 +109,7 @@ extern const RecordTable rowTable;
 extern const RecordTable vatRateTable;
 extern const RecordTable invoiceTable;
 extern const RecordTable fileTable;
+extern const RecordTable checkTable;
 extern const RecordTable companyTable;
 extern const RecordTable settingTable;
 extern const RecordTable layoutTable;

@@ -1,0 +1,28 @@
+#ifndef EINVOICERULES_H
+#define EINVOICERULES_H
+
+#include "einvoicedocument.h"
+
+namespace EInvoice {
+
+enum class Severity { error, warning, note };
+
+/** What a rule found in a document. */
+struct Finding {
+    const char *rule; ///< "BR-11"
+    Severity severity;
+    const char *term;  ///< "BT-55"
+    const char *field; ///< of the program's records, "customer.country"; empty for none
+    QString finnish, english;
+};
+
+/** All that is wrong or worth knowing, in the order of the table. A document with an error must not be sent. */
+QVector<Finding> check(const Document &document, Format format);
+bool hasError(const QVector<Finding> &findings);
+
+/** The ids of all rules, each once. */
+QStringList ruleIds();
+
+} // namespace EInvoice
+
+#endif
