@@ -301,11 +301,11 @@
     </message>
     <message>
         <source>Finvoice 3.0, EN 16931</source>
-        <translation type="unfinished"></translation>
+        <translation>Finvoice 3.0, EN 16931</translation>
     </message>
     <message>
         <source>Peppol BIS Billing 3</source>
-        <translation type="unfinished"></translation>
+        <translation>Peppol BIS Billing 3</translation>
     </message>
     <message>
         <source>kaikki</source>
@@ -313,7 +313,7 @@
     </message>
     <message>
         <source>muoto, johon lasku aiotaan viedä; muuten asiakkaan tai yrityksen oma</source>
-        <translation type="unfinished"></translation>
+        <translation>format that it is to be exported to; else the customer's or the company's own</translation>
     </message>
     <message>
         <source>virhe</source>
@@ -321,15 +321,15 @@
     </message>
     <message>
         <source>varoitus</source>
-        <translation type="unfinished"></translation>
+        <translation>warning</translation>
     </message>
     <message>
         <source>huomautus</source>
-        <translation type="unfinished"></translation>
+        <translation>note</translation>
     </message>
     <message>
         <source>Laskut ovat valmiita lähetettäviksi.</source>
-        <translation type="unfinished"></translation>
+        <translation>The invoices are ready to be sent.</translation>
     </message>
     <message>
         <source>PDF</source>
@@ -345,7 +345,7 @@
     </message>
     <message>
         <source>asiakkaan tai yrityksen oma verkkolaskumuoto</source>
-        <translation type="unfinished"></translation>
+        <translation>e-invoice format of the customer or the company</translation>
     </message>
     <message>
         <source>asiakirjan laji, jos muu kuin laskun oma</source>
@@ -385,7 +385,7 @@
     </message>
     <message>
         <source>Laskua %1 ei viety: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Invoice %1 was not exported: %2</translation>
     </message>
     <message>
         <source>luettelo laskuista</source>
@@ -417,7 +417,7 @@
     </message>
     <message>
         <source>tarkistaa, voiko laskut lähettää verkkolaskuina</source>
-        <translation type="unfinished"></translation>
+        <translation>checks whether invoices can be sent as e-invoices</translation>
     </message>
     <message>
         <source>laskut tiedostoiksi: PDF, Finvoice tai CSV</source>
@@ -1537,83 +1537,83 @@ Overdue %4 invoices, %5</translation>
     </message>
     <message>
         <source>Osoitteen laji</source>
-        <translation type="unfinished"></translation>
+        <translation>Address scheme</translation>
     </message>
     <message>
         <source>verkkolaskuosoitteen laji (EAS), jos se ei selviä osoitteesta</source>
-        <translation type="unfinished"></translation>
+        <translation>scheme of the e-invoice address (EAS), when the address does not tell</translation>
     </message>
     <message>
         <source>Verkkolaskun muoto</source>
-        <translation type="unfinished"></translation>
+        <translation>E-invoice format</translation>
     </message>
     <message>
         <source>Ostajan viite</source>
-        <translation type="unfinished"></translation>
+        <translation>Buyer reference</translation>
     </message>
     <message>
         <source>viite laskuille, joilla ei ole omaa</source>
-        <translation type="unfinished"></translation>
+        <translation>reference for invoices without their own</translation>
     </message>
     <message>
         <source>Maakoodi</source>
-        <translation type="unfinished"></translation>
+        <translation>Country code</translation>
     </message>
     <message>
         <source>ISO 3166, jos maan nimeä ei tunneta</source>
-        <translation type="unfinished"></translation>
+        <translation>ISO 3166, when the country's name is not known</translation>
     </message>
     <message>
         <source>Veroluokka</source>
-        <translation type="unfinished"></translation>
+        <translation>VAT category</translation>
     </message>
     <message>
         <source>veroluokka riveille, joiden vero on 0 %: AE K G E O Z</source>
-        <translation type="unfinished"></translation>
+        <translation>VAT category of rows at 0 %: AE K G E O Z</translation>
     </message>
     <message>
         <source>Verottomuuden syy</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemption reason</translation>
     </message>
     <message>
         <source>Verottomuuden koodi</source>
-        <translation type="unfinished"></translation>
+        <translation>Exemption code</translation>
     </message>
     <message>
         <source>verottomuuden syyn koodi (VATEX)</source>
-        <translation type="unfinished"></translation>
+        <translation>code of the exemption reason (VATEX)</translation>
     </message>
     <message>
         <source>Toimitus: nimi</source>
-        <translation type="unfinished"></translation>
+        <translation>Deliver to: name</translation>
     </message>
     <message>
         <source>Toimitus: katuosoite</source>
-        <translation type="unfinished"></translation>
+        <translation>Deliver to: street</translation>
     </message>
     <message>
         <source>Toimitus: postinumero</source>
-        <translation type="unfinished"></translation>
+        <translation>Deliver to: post code</translation>
     </message>
     <message>
         <source>Toimitus: postitoimipaikka</source>
-        <translation type="unfinished"></translation>
+        <translation>Deliver to: town</translation>
     </message>
     <message>
         <source>Toimitus: maa</source>
-        <translation type="unfinished"></translation>
+        <translation>Deliver to: country</translation>
     </message>
     <message>
         <source>Sopimusnumero</source>
-        <translation type="unfinished"></translation>
+        <translation>Contract number</translation>
     </message>
     <message>
         <source>Tiliöintiviite</source>
-        <translation type="unfinished"></translation>
+        <translation>Accounting reference</translation>
     </message>
     <message>
         <source>ostajan tiliöintiviite</source>
-        <translation type="unfinished"></translation>
+        <translation>the buyer's accounting reference</translation>
     </message>
     <message>
         <source>Avoimia laskuja</source>
@@ -1629,27 +1629,27 @@ Overdue %4 invoices, %5</translation>
     </message>
     <message>
         <source>Sääntö</source>
-        <translation type="unfinished"></translation>
+        <translation>Rule</translation>
     </message>
     <message>
         <source>Vakavuus</source>
-        <translation type="unfinished"></translation>
+        <translation>Severity</translation>
     </message>
     <message>
         <source>Tieto</source>
-        <translation type="unfinished"></translation>
+        <translation>Term</translation>
     </message>
     <message>
         <source>standardin EN 16931 tieto</source>
-        <translation type="unfinished"></translation>
+        <translation>term of the standard EN 16931</translation>
     </message>
     <message>
         <source>Kenttä</source>
-        <translation type="unfinished"></translation>
+        <translation>Field</translation>
     </message>
     <message>
         <source>missä tieto korjataan</source>
-        <translation type="unfinished"></translation>
+        <translation>where it is mended</translation>
     </message>
     <message>
         <source>laskun numero; seuraava, jos sitä ei anneta</source>
@@ -1729,47 +1729,47 @@ Overdue %4 invoices, %5</translation>
     </message>
     <message>
         <source>Tilausnumero</source>
-        <translation type="unfinished"></translation>
+        <translation>Order number</translation>
     </message>
     <message>
         <source>ostajan tilausnumero</source>
-        <translation type="unfinished"></translation>
+        <translation>the buyer's order number</translation>
     </message>
     <message>
         <source>Projektinumero</source>
-        <translation type="unfinished"></translation>
+        <translation>Project number</translation>
     </message>
     <message>
         <source>Hyvitettävä lasku</source>
-        <translation type="unfinished"></translation>
+        <translation>Credited invoice</translation>
     </message>
     <message>
         <source>hyvitettävän laskun numero</source>
-        <translation type="unfinished"></translation>
+        <translation>number of the credited invoice</translation>
     </message>
     <message>
         <source>Hyvitettävän päivä</source>
-        <translation type="unfinished"></translation>
+        <translation>Date of the credited</translation>
     </message>
     <message>
         <source>hyvitettävän laskun päivä</source>
-        <translation type="unfinished"></translation>
+        <translation>date of the credited invoice</translation>
     </message>
     <message>
         <source>Kausi alkaa</source>
-        <translation type="unfinished"></translation>
+        <translation>Period begins</translation>
     </message>
     <message>
         <source>laskutuskauden alku</source>
-        <translation type="unfinished"></translation>
+        <translation>begin of the invoicing period</translation>
     </message>
     <message>
         <source>Kausi päättyy</source>
-        <translation type="unfinished"></translation>
+        <translation>Period ends</translation>
     </message>
     <message>
         <source>laskutuskauden loppu</source>
-        <translation type="unfinished"></translation>
+        <translation>end of the invoicing period</translation>
     </message>
     <message>
         <source>Verokannat</source>
@@ -2239,15 +2239,15 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     </message>
     <message>
         <source>verkkolaskun muoto: finvoice, finvoice3 tai peppol</source>
-        <translation type="unfinished"></translation>
+        <translation>e-invoice format: finvoice, finvoice3 or peppol</translation>
     </message>
     <message>
         <source>omat yksiköt: teksti=koodi, pilkuin erotettuina</source>
-        <translation type="unfinished"></translation>
+        <translation>own units: text=code, separated by commas</translation>
     </message>
     <message>
         <source>verottomuuden syy</source>
-        <translation type="unfinished"></translation>
+        <translation>exemption reason</translation>
     </message>
     <message>
         <source>vastaanottajan oletusosoite Finvoicessa</source>
@@ -2271,7 +2271,7 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     </message>
     <message>
         <source>yrityksen verkkolaskuosoitteen laji (EAS)</source>
-        <translation type="unfinished"></translation>
+        <translation>scheme of the company's e-invoice address (EAS)</translation>
     </message>
     <message>
         <source>tulostetaanko viivakoodi</source>
@@ -2311,23 +2311,23 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     </message>
     <message>
         <source>tilin haltijan nimi</source>
-        <translation type="unfinished"></translation>
+        <translation>name of the account's holder</translation>
     </message>
     <message>
         <source>myyjän yhteyshenkilö</source>
-        <translation type="unfinished"></translation>
+        <translation>the seller's contact</translation>
     </message>
     <message>
         <source>myyjän oikeudelliset tiedot, kuten Ennakkoperintärekisterissä</source>
-        <translation type="unfinished"></translation>
+        <translation>the seller's legal information</translation>
     </message>
     <message>
         <source>veroviranomaisen tunnus, jos ALV-numeroa ei ole</source>
-        <translation type="unfinished"></translation>
+        <translation>id at the tax authority, without a VAT number</translation>
     </message>
     <message>
         <source>aputoiminimi</source>
-        <translation type="unfinished"></translation>
+        <translation>trade name</translation>
     </message>
     <message>
         <source>ALV-numero</source>
@@ -2495,27 +2495,27 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     </message>
     <message>
         <source>käännetty verovelvollisuus</source>
-        <translation type="unfinished"></translation>
+        <translation>reverse charge</translation>
     </message>
     <message>
         <source>yhteisömyynti</source>
-        <translation type="unfinished"></translation>
+        <translation>intra-community supply</translation>
     </message>
     <message>
         <source>vientimyynti</source>
-        <translation type="unfinished"></translation>
+        <translation>export</translation>
     </message>
     <message>
         <source>veroton</source>
-        <translation type="unfinished"></translation>
+        <translation>exempt</translation>
     </message>
     <message>
         <source>veron ulkopuolella</source>
-        <translation type="unfinished"></translation>
+        <translation>outside the scope of VAT</translation>
     </message>
     <message>
         <source>nollavero</source>
-        <translation type="unfinished"></translation>
+        <translation>zero rate</translation>
     </message>
     <message>
         <source>laskujen numeroita ja välejä: 1001 1010-1020 1030-; - lukee lisää</source>
