@@ -308,10 +308,6 @@
         <translation>Peppol BIS Billing 3</translation>
     </message>
     <message>
-        <source>kaikki</source>
-        <translation>all</translation>
-    </message>
-    <message>
         <source>muoto, johon lasku aiotaan viedä; muuten asiakkaan tai yrityksen oma</source>
         <translation>format that it is to be exported to; else the customer's or the company's own</translation>
     </message>
@@ -346,6 +342,10 @@
     <message>
         <source>asiakkaan tai yrityksen oma verkkolaskumuoto</source>
         <translation>e-invoice format of the customer or the company</translation>
+    </message>
+    <message>
+        <source>kaikki</source>
+        <translation>all</translation>
     </message>
     <message>
         <source>asiakirjan laji, jos muu kuin laskun oma</source>
@@ -1650,6 +1650,14 @@ Overdue %4 invoices, %5</translation>
     <message>
         <source>missä tieto korjataan</source>
         <translation>where it is mended</translation>
+    </message>
+    <message>
+        <source>Korjaus</source>
+        <translation>Remedy</translation>
+    </message>
+    <message>
+        <source>komento, jolla tieto annetaan</source>
+        <translation>the command that sets it</translation>
     </message>
     <message>
         <source>laskun numero; seuraava, jos sitä ei anneta</source>

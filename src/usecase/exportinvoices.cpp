@@ -206,7 +206,8 @@ EInvoice::Document documentOf(const InvoicePrintModel &model, const Invoice &inv
 bool writeEInvoices(UseCaseContext &context, const Request &request, PrintFormat format, InvoicePrintModel &all,
                     QVector<File> &files)
 {
-    XmlScriptModel single(&context.session.registry()); // for the envelope
+    XmlScriptModel single(&context.session.registry()); // for the envelope, and for Finvoice 1.3
+    std::unique_ptr<XmlScriptManager> script;
     for (int i = 0; i < all.invoiceCount(); ++i) {
         const Invoice &invoice = *all.invoice(i);
         const Customer *customer = all.customer(invoice);
@@ -216,7 +217,16 @@ bool writeEInvoices(UseCaseContext &context, const Request &request, PrintFormat
         File file;
         file.invoiceId = invoice.id;
         file.invoiceNumber = invoice.number;
-        file.findings = EInvoice::check(document, own == peppolFormat ? EInvoice::peppol : EInvoice::finvoice3);
+        if (own == finvoiceFormat && !script) {
+            script = std::make_unique<XmlScriptManager>();
+            script->setSoapEnvEnabled(request.writeSoap);
+            if (!context.session.fetch(CachedList::printScripts) ||
+                !ExportTools::checkLoaded(context, *script,
+                                          ScriptLoader(&context.session.registry()).loadFinvoiceScript(script.get())))
+                return false;
+        }
+        if (own != finvoiceFormat)
+            file.findings = EInvoice::check(document, own == peppolFormat ? EInvoice::peppol : EInvoice::finvoice3);
         if (EInvoice::hasError(file.findings)) {
             files.append(file);
             continue;
@@ -228,6 +238,19 @@ bool writeEInvoices(UseCaseContext &context, const Request &request, PrintFormat
                 QDir().mkpath(QFileInfo(file.fileName).path());
             const ReservedName reserved(form, invoice, customer, request.printType);
             file.fileName = reserved.name();
+            if (own == finvoiceFormat) {
+                single.clear();
+                single.copyInvoice(&all, i);
+                script->write(file.fileName, false, &single);
+                if (!script->lastError().isEmpty())
+                    return ExportTools::failWriting(context, file.fileName, script->lastError());
+                if (script->hasException()) {
+                    removeEmptyDocument(file.fileName);
+                    file.exception = ExportTools::exception(*script);
+                }
+                files.append(file);
+                continue;
+            }
             OutputFile output(file.fileName);
             QByteArray bytes = own == peppolFormat ? EInvoice::writeUbl(document) : EInvoice::writeFinvoice3(document);
             if (own == finvoice3Format && request.writeSoap) {
@@ -289,6 +312,7 @@ bool ExportInvoices::check(UseCaseContext &context, const InvoiceCriteria &crite
         const Customer *customer = model.customer(invoice);
         Checked one;
         one.invoiceNumber = invoice.number;
+        one.customerNumber = customer ? customer->number : 0;
         one.format = format.value_or(formatOf(*model.settings(), customer ? *customer : Customer()));
         const EInvoice::Document document = documentOf(model, invoice, InvoicePrintModel::ownType);
         one.findings = EInvoice::check(document, one.format == peppolFormat ? EInvoice::peppol : EInvoice::finvoice3);

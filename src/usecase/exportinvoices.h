@@ -43,7 +43,7 @@ struct File {
 
 /** An invoice looked at before it is sent. */
 struct Checked {
-    int invoiceNumber = 0;
+    int invoiceNumber = 0, customerNumber = 0;
     PrintFormat format = finvoice3Format;
     QVector<EInvoice::Finding> findings;
 };

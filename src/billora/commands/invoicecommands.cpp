@@ -1,4 +1,5 @@
 #include "commandgroups.h"
+#include "commandtable.h"
 
 #include "editorfile.h"
 #include "exportinvoices.h"
@@ -438,7 +439,6 @@ bool readChoice(Task &task, const char *name, const Choice *choices, int &index)
 constexpr Choice checkFormats[] = {
     {"finvoice3", TEXT("Finvoice 3.0, EN 16931")}, {"peppol", TEXT("Peppol BIS Billing 3")}, {nullptr, nullptr}};
 constexpr Option checkOptions[] = {
-    {"all", ValueType::flag, TEXT("kaikki")},
     {"for", ValueType::word, TEXT("muoto, johon lasku aiotaan viedä; muuten asiakkaan tai yrityksen oma"), 0,
      checkFormats},
 };
@@ -448,15 +448,55 @@ constexpr Choice severities[] = {{"error", TEXT("virhe"), "31"},
                                  {"note", TEXT("huomautus")},
                                  {nullptr, nullptr}};
 
-CheckRecord recordOf(int invoiceNumber, const EInvoice::Finding &finding)
+QString messageOf(const EInvoice::Finding &finding)
+{
+    return Language::current() == Language::english ? finding.english : finding.finnish;
+}
+
+QString reasonOf(const EInvoice::Finding &finding)
+{
+    return QLatin1String(finding.rule) + QLatin1String(": ") + messageOf(finding);
+}
+
+constexpr struct {
+    const char *record, *command; ///< "%1" is the record's number, "%2" the field
+} mendings[] = {
+    {"settings", "billora settings set %2=…"},
+    {"customer", "billora customer edit %1 --%2 …"},
+    {"account", "billora account edit ACCOUNT --%2 …"},
+    {"rows", "billora row edit %1 ROW --%2 …"},
+    {"", "billora invoice edit %1 --%2 …"},
+};
+
+/** How to set the field that a rule is about; empty where no field mends it. */
+QString mendingOf(const ExportInvoices::Checked &invoice, const EInvoice::Finding &finding)
+{
+    const QString place = QLatin1String(finding.field);
+    const QString record = place.contains(QLatin1Char('.')) ? place.section(QLatin1Char('.'), 0, 0) : QString();
+    const QString field = place.section(QLatin1Char('.'), -1);
+    const bool isField = !field.isEmpty() && field != QLatin1String("total") && field != QLatin1String("rows");
+    for (const auto &mending : mendings) {
+        if (!isField || record != QLatin1String(mending.record))
+            continue;
+        const bool isCustomers = record == QLatin1String("customer");
+        return QString::fromUtf8(mending.command)
+            .replace(QLatin1String("%1"), QString::number(isCustomers ? invoice.customerNumber : invoice.invoiceNumber))
+            .replace(QLatin1String("%2"),
+                     record == QLatin1String("settings") ? field : CommandTable::hyphenated(field));
+    }
+    return QString();
+}
+
+CheckRecord recordOf(const ExportInvoices::Checked &invoice, const EInvoice::Finding &finding)
 {
     CheckRecord record;
-    record.invoiceNumber = invoiceNumber;
+    record.invoiceNumber = invoice.invoiceNumber;
+    record.command = mendingOf(invoice, finding);
     record.rule = QLatin1String(finding.rule);
     record.severity = QLatin1String(severities[static_cast<int>(finding.severity)].word);
     record.term = QLatin1String(finding.term);
     record.field = QLatin1String(finding.field);
-    record.message = Language::current() == Language::english ? finding.english : finding.finnish;
+    record.message = messageOf(finding);
     return record;
 }
 
@@ -464,7 +504,7 @@ bool checkInvoices(Task &task)
 {
     auto selection = std::make_shared<InvoiceSelection>();
     int format = -1;
-    if (!Selection::readInvoices(task, *selection, true) || !readChoice(task, "for", checkFormats, format))
+    if (!Selection::readInvoices(task, *selection, false) || !readChoice(task, "for", checkFormats, format))
         return false;
     InvoiceCriteria criteria;
     criteria.selection = selection;
@@ -478,7 +518,7 @@ bool checkInvoices(Task &task)
     int count = 0;
     for (const ExportInvoices::Checked &one : qAsConst(checked)) {
         for (const EInvoice::Finding &finding : one.findings) {
-            const CheckRecord record = recordOf(one.invoiceNumber, finding);
+            const CheckRecord record = recordOf(one, finding);
             task.answer.add(&record);
             ++count;
             if (finding.severity == EInvoice::Severity::error)
@@ -528,9 +568,9 @@ bool exportToOutput(Task &task, ExportInvoices::Request request)
     if (files.size() != 1)
         return task.fail(Problem::rule, text(TEXT("vakiotulosteeseen mahtuu yksi asiakirja, ei %1")).arg(files.size()),
                          QStringLiteral("output"));
-    if (EInvoice::hasError(files.first().findings)) {
-        const CheckRecord reason = recordOf(files.first().invoiceNumber, files.first().findings.first());
-        return task.fail(Problem::rule, reason.rule + QLatin1String(": ") + reason.message, reason.field);
+    for (const EInvoice::Finding &finding : qAsConst(files.first().findings)) {
+        if (finding.severity == EInvoice::Severity::error)
+            return task.fail(Problem::rule, reasonOf(finding), QLatin1String(finding.field));
     }
     if (!files.first().exception.isEmpty())
         return task.session.fail(Failure::scriptException, files.first().exception);
@@ -611,8 +651,7 @@ bool exportDocuments(Task &task)
             QStringList reasons;
             for (const EInvoice::Finding &finding : file.findings) {
                 if (finding.severity == EInvoice::Severity::error) {
-                    const CheckRecord reason = recordOf(file.invoiceNumber, finding);
-                    reasons.append(reason.rule + QLatin1String(": ") + reason.message);
+                    reasons.append(reasonOf(finding));
                 }
             }
             record.error = reasons.join(QLatin1String("; "));

@@ -51,6 +51,12 @@ template <class Record, class Part, Part Record::*part, const char *key> struct 
         static_cast<Part *>(record)->setPropertyIfNotEmpty(QLatin1String(key), text);
         return true;
     }
+    /** A word of choices: not set when it is empty. */
+    static Value getWord(const void *record)
+    {
+        const Value value = get(record);
+        return value.toText().isEmpty() ? Value() : value;
+    }
     /** A date that is stored as a text. */
     static Value getDate(const void *record) { return Value(QDate::fromString(get(record).toText(), Qt::ISODate)); }
 };

@@ -37,10 +37,12 @@ constexpr Field checkFields[] = {
     {"field", ValueType::text, TEXT("Kenttä"), TEXT("missä tieto korjataan"), Field::summary,
      value<&CheckRecord::field>},
     {"message", ValueType::text, TEXT("Havainto"), nullptr, Field::summary, value<&CheckRecord::message>},
+    {"command", ValueType::text, TEXT("Korjaus"), TEXT("komento, jolla tieto annetaan"), Field::summary,
+     value<&CheckRecord::command>},
 };
 
 } // namespace
 
 const RecordTable checkTable = {"checkFinding", checkFields, sizeof checkFields / sizeof checkFields[0],
-                                "invoice,severity,rule,field,message"};
+                                "invoice,severity,rule,term,field,message,command"};
 const RecordTable fileTable = {"file", fields, sizeof fields / sizeof fields[0], "file,error"};

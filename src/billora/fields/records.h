@@ -94,7 +94,7 @@ struct FindingRecord {
 /** What a rule of e-invoices found in an invoice. */
 struct CheckRecord {
     int invoiceNumber = 0;
-    QString rule, severity, term, field, message;
+    QString rule, severity, term, field, message, command;
 };
 
 /** The words of invoice types, in the order of Invoice::Type; null ends them. */
