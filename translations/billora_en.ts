@@ -264,6 +264,10 @@
         <translation>no invoice was found</translation>
     </message>
     <message>
+        <source>Poistetaanko lasku riveineen ja suorituksineen?</source>
+        <translation>Remove the invoice with its rows and payments?</translation>
+    </message>
+    <message>
         <source>Poistetaanko %1 laskua riveineen ja suorituksineen?</source>
         <translation>Remove %1 invoices with their rows and payments?</translation>
     </message>

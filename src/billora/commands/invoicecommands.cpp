@@ -292,8 +292,10 @@ bool remove(Task &task)
                              .arg(QString::number(record.invoice.number), ValueWriter::date(record.invoice.date),
                                   record.customerName, ValueWriter::money(record.invoice.totalAmount)));
     }
-    const QString question = lines.join(QLatin1Char('\n')) + QLatin1Char('\n') +
-                             text(TEXT("Poistetaanko %1 laskua riveineen ja suorituksineen?")).arg(records.size());
+    const QString all = records.size() == 1
+                            ? text(TEXT("Poistetaanko lasku riveineen ja suorituksineen?"))
+                            : text(TEXT("Poistetaanko %1 laskua riveineen ja suorituksineen?")).arg(records.size());
+    const QString question = lines.join(QLatin1Char('\n')) + QLatin1Char('\n') + all;
     if (!task.confirm(question, records.size(), task.flag("all")))
         return false;
     for (const InvoiceRecord &record : qAsConst(records)) {
