@@ -7,7 +7,8 @@
 
 // The commands of each noun are a table in a file of its own.
 
-CommandGroup wholeCompanyCommands(); ///< init, status, check, backup, optimize
+CommandGroup wholeCompanyCommands(); ///< init, status, check, backup, optimize: no noun of their own
+/** Tables with static lifetime, each in the order in which help lists them. */
 CommandGroup invoiceCommands();
 CommandGroup rowCommands();
 CommandGroup customerCommands();
@@ -20,6 +21,7 @@ CommandGroup companyCommands();
 CommandGroup settingsCommands();
 CommandGroup programCommands(); ///< completion, help
 
+/** All of them, in the order of the help. */
 QVector<CommandGroup> commandGroups();
 
 #endif

@@ -25,6 +25,7 @@
  */
 namespace RecordCommands {
 
+/** The value of the field that is the handle, as -q prints it; empty when the record has none. */
 template <class Kind> QString handle(const typename Kind::Record &record)
 {
     for (const Field &field : Kind::table) {
@@ -35,12 +36,17 @@ template <class Kind> QString handle(const typename Kind::Record &record)
     return QString();
 }
 
+/** Writes the whole record, or for people the sentence with handle and name. @return false with the problem told */
 template <class Kind> bool answer(Task &task, const typename Kind::Record &record, const char *sentence)
 {
     return task.answer.saved(Kind::table, &record, text(sentence).arg(handle<Kind>(record), (record.*Kind::part).name),
                              task.session);
 }
 
+/**
+ * Adds what the options say in a transaction of its own; false, with nothing stored and the problem told, when a value
+ * does not fit.
+ */
 template <class Kind> bool add(Task &task)
 {
     typename Kind::Record record;
@@ -93,6 +99,7 @@ template <class Kind> bool checkRequired(Task &task, const Arguments &given, boo
     return true;
 }
 
+/** With fields as options changes them; without any opens the editor, which needs a person. */
 template <class Kind> bool edit(Task &task)
 {
     const QString word = task.arguments.text(Kind::word);
@@ -111,6 +118,7 @@ template <class Kind> bool edit(Task &task)
     return edited && (!isUnchanged || answer<Kind>(task, seen, TEXT("Mitään ei muutettu: %1 %2")));
 }
 
+/** Asks once for all; either every record is removed or none. A record named twice counts once. */
 template <class Kind> bool remove(Task &task)
 {
     using Record = typename Kind::Record;

@@ -9,19 +9,24 @@
 // The getters of field tables, for a record that holds another: customer.name of a CustomerRecord.
 
 /** The value of a part's member or member function. */
+/** `get` takes the address of the whole record; a member function must be const and take no arguments. */
 template <auto part, auto member> struct PartGetter;
 
 template <class Record, class Part, Part Record::*part, auto member> struct PartGetter<part, member> {
+    /** `record` must be a Record, nothing checks it. */
     static Value get(const void *record)
     {
         return Value(std::invoke(member, static_cast<const Record *>(record)->*part));
     }
 };
 
+/** For Field::get: a part's member. */
 template <auto part, auto member> constexpr auto partValue = &PartGetter<part, member>::get;
 
+/** As PartGetter, for a record whose value is not in a part; members only. */
 template <auto member> struct Getter;
 template <class Record, class Type, Type Record::*member> struct Getter<member> {
+    /** `record` must be a Record, nothing checks it. */
     static Value get(const void *record) { return Value(static_cast<const Record *>(record)->*member); }
 };
 /** The value of the record's own member. */
@@ -30,10 +35,16 @@ template <auto member> constexpr auto value = &Getter<member>::get;
 /** A property of a part that is a PropertyMap: empty when it has none. */
 template <auto part, const char *key> struct PropertyOf;
 template <class Record, class Part, Part Record::*part, const char *key> struct PropertyOf<part, key> {
+    /** An empty text, not null, when there is none. */
     static Value get(const void *record)
     {
         return Value((static_cast<const Record *>(record)->*part).property(QLatin1String(key)).toString());
     }
+    /**
+     * Reads by the field's choices or type and stores a text, dates as ISO 8601; an empty value removes the key.
+     * @param record  the Part itself, not the record that holds it
+     * @return false, with the problem told and the part unchanged, for a value that does not fit
+     */
     static bool set(void *record, const ValueReader &reader, const Field &field, const QString &value)
     {
         QString text;
