@@ -8,8 +8,8 @@
 class QTextStream;
 
 /**
- * Reads and writes character-separated values on a text stream, which the caller opens, encodes and closes. A quoted
- * field does not span lines.
+ * Reads and writes character-separated values (RFC 4180) on a text stream, which the caller opens, encodes and closes.
+ * Unlike there a quoted field does not span lines when reading.
  */
 class CSV : public QObject {
     Q_OBJECT
@@ -33,9 +33,10 @@ public:
     QStringList readLine();
 
 private:
+    /** Never fails: an unclosed quote lasts to the end of the line. */
     QStringList split(const QString &line) const;
 
-    QTextStream *m_stream;
+    QTextStream *m_stream; ///< must outlive this
     QString m_delimiters = QStringLiteral(",;");
     bool m_fieldWritten = false; ///< on the current line
 };

@@ -8,6 +8,7 @@
 /** Reads and writes dates in the Finnish day-first form, "5.3.2015" and its abbreviations. */
 class DateFormat {
 public:
+    /** Compiles the patterns: one object serves many dates. */
     DateFormat();
 
     /**

@@ -10,19 +10,27 @@
  */
 class DecimalFormat {
 public:
+    /**
+     * Takes the system's locale. No more than maxFractionDigits; below minFractionDigits zeros are kept, above they are
+     * cut.
+     */
     explicit DecimalFormat(int fractionDigits = 0, int minFractionDigits = 0);
 
     /** The most decimals that a 32-bit scale holds; scripts may ask for more. */
     static constexpr int maxFractionDigits = 9;
 
+    /** Of the scaled integers. */
     int fractionDigits() const { return m_fractionDigits; }
-    void setFractionDigits(int digits);
+    void setFractionDigits(int digits); ///< larger numbers are taken as maxFractionDigits
+    /** Of the text: 2 shows 1.5 as 1.50. Not checked against fractionDigits(). */
     int minFractionDigits() const { return m_minFractionDigits; }
     void setMinFractionDigits(int digits) { m_minFractionDigits = digits; }
 
+    /** Written only; parse() takes "," and "." all the same. */
     QString decimalPoint() const { return m_decimalPoint; }
     void setDecimalPoint(const QString &point) { m_decimalPoint = point; }
 
+    /** What format() groups by. */
     QLocale locale() const { return m_locale; }
     /** Also replaces the decimal point by the locale's. */
     void setLocale(const QLocale &locale);
@@ -41,12 +49,14 @@ public:
     long long parse(const QString &text, bool &ok) const;
 
 private:
+    /** Without the point; empty when all decimals are zeros that may be cut. */
     QString fraction(unsigned long long magnitude) const;
 
+    /** The system's unless set. */
     QLocale m_locale;
-    QString m_decimalPoint;
-    int m_divisor = 1; ///< 10 to the power m_fractionDigits
-    int m_fractionDigits = 0;
+    QString m_decimalPoint;   ///< may be of several characters
+    int m_divisor = 1;        ///< 10 to the power m_fractionDigits
+    int m_fractionDigits = 0; ///< 0 to maxFractionDigits
     int m_minFractionDigits = 0;
 };
 

@@ -11,6 +11,7 @@
  */
 class InputLine {
 public:
+    /** @param descriptor  not owned, stays open */
     explicit InputLine(int descriptor);
 
     /**
@@ -31,11 +32,11 @@ public:
     static QStringList splitWords(const QString &line);
 
 private:
-    int m_descriptor;
-    QByteArray m_buffer;
-    int m_position = 0; ///< start of what was not returned yet
-    bool m_atEnd = false;
-    bool m_isFirst = true;
+    int m_descriptor;      ///< not owned
+    QByteArray m_buffer;   ///< bytes read, LF not yet looked for behind m_position
+    int m_position = 0;    ///< start of what was not returned yet
+    bool m_atEnd = false;  ///< also after a failed read
+    bool m_isFirst = true; ///< a U+FEFF is dropped from the first line only
 };
 
 #endif

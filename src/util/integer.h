@@ -4,6 +4,7 @@
 #include <QString>
 #include <QStringView>
 
+/** Free of any locale. */
 namespace Integer {
 
 /**

@@ -12,21 +12,26 @@
  */
 class OutputFile {
 public:
+    /** Touches nothing yet. */
     explicit OutputFile(const QString &fileName);
 
+    /**
+     * @return false, with the reason in errorString(), when the file must not be replaced or its folder not be written
+     */
     [[nodiscard]] bool open();
     /** @return whether everything written until now is in the file; without a commit nothing is */
     [[nodiscard]] bool commit();
 
+    /** Owned; open between open() and commit(). */
     QIODevice *device() { return &m_file; }
     QString errorString() const { return m_errorString; } ///< the system's own text of the last failure
 
 private:
-    bool fail(const QString &message);
+    bool fail(const QString &message); ///< keeps the message. @return false
 
-    ReplacedFile m_place;
-    QFile m_file;
-    QString m_errorString;
+    ReplacedFile m_place;  ///< declared before the file: the file is closed before its temporary is removed
+    QFile m_file;          ///< the temporary one, or the pipe itself
+    QString m_errorString; ///< null until a failure
 };
 
 #endif

@@ -10,6 +10,7 @@
  */
 class ReplacedFile {
 public:
+    /** Chooses the names; creates and opens nothing. */
     explicit ReplacedFile(const QString &fileName);
     /** Removes what was not put in place. */
     ~ReplacedFile();
@@ -20,15 +21,16 @@ public:
     QString temporaryName() const { return m_temporary; }
     /** @return false, with the reason in errorString(), when the file must not be replaced */
     [[nodiscard]] bool mayBeReplaced();
+    /** Gives it the permissions of the earlier file and renames. @return false, with the reason in errorString() */
     [[nodiscard]] bool putInPlace();
-    QString errorString() const { return m_errorString; }
+    QString errorString() const { return m_errorString; } ///< the system's own text; null until a failure
 
 private:
-    bool fail(int error);
+    bool fail(int error); ///< keeps the text of an errno. @return false
 
-    const QString m_fileName;
-    QString m_target; ///< the file behind a symbolic link
-    QString m_temporary;
+    const QString m_fileName; ///< as given
+    QString m_target;         ///< the file behind a symbolic link
+    QString m_temporary;      ///< a random name in the folder of m_target
     QString m_errorString;
 };
 
