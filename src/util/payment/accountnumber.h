@@ -8,6 +8,7 @@ struct AccountNumber {
     QString iban; ///< without blanks
     QString bban; ///< 14 digits; empty for a foreign account
 
+    /** The text that was parsed was none that is known. */
     bool isEmpty() const { return iban.isEmpty() && bban.isEmpty(); }
 
     /**
@@ -19,6 +20,7 @@ struct AccountNumber {
     static AccountNumber parse(const QString &text);
 
 private:
+    /** Makes the check digits. @param bban  14 digits, not checked. */
     static AccountNumber fromBban(const QString &bban);
 };
 

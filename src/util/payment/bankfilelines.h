@@ -23,20 +23,21 @@ public:
     /** Goes on to the next line. @return false at the end, everything else is then unchanged */
     bool next();
 
+    /** Without its end; of a line that is too long, its beginning. */
     const QString &text() const { return m_text; }
-    qint64 number() const { return m_number; } ///< from 1; 0 before the first
-    bool isBlank() const;
+    qint64 number() const { return m_number; }         ///< from 1; 0 before the first
+    bool isBlank() const;                              ///< also when it holds white space only
     bool isTooLong() const { return m_tooLong; }       ///< the rest of the line was passed over
     bool isTerminated() const { return m_terminated; } ///< false for a last line without line end
 
 private:
-    QString decode(const QByteArray &bytes) const;
-    void skipRest();
+    QString decode(const QByteArray &bytes) const; ///< UTF-8 where the bytes are valid as such, else m_codec
+    void skipRest();                               ///< of a line that is too long
 
-    QIODevice &m_device;
-    QTextCodec *m_utf8;
+    QIODevice &m_device; ///< not owned
+    QTextCodec *m_utf8;  ///< of the library, never deleted
     QTextCodec *m_codec; ///< of what is not UTF-8
-    QString m_text;
+    QString m_text;      ///< 64 KiB of bytes at most
     qint64 m_number = 0;
     bool m_tooLong = false;
     bool m_terminated = false;

@@ -12,24 +12,29 @@
 class CSVColumns {
 public:
     enum Column {
-        entryDate,
-        paymentDate,
-        valueDate,
-        amount,
-        reference,
+        entryDate,    ///< the booking date, or the value date where a file has no other
+        paymentDate,  ///< when the payer paid
+        valueDate,    ///< not used but in place of entryDate
+        amount,       ///< signed
+        reference,    ///< one of the three that a file cannot do without
         name,         ///< of the other party
         title,        ///< a text, usually the other party's name too
         payer,        ///< account or name of the payer
         payeeAccount, ///< on a payment received the own account
-        account,
-        currency,
-        archiveId,
+        account,      ///< the own one in the first column
+        currency,     ///< EUR or the euro sign when given
+        archiveId,    ///< see PaymentRecord
+        /** No column. */
         columnCount
     };
 
-    CSVColumns() { m_indexes.fill(-1); }
+    CSVColumns() { m_indexes.fill(-1); } ///< no column is there
+    /**
+     * Finnish or English titles, letter case aside, perhaps with further words. The first that fits takes the column.
+     */
     explicit CSVColumns(const QStringList &titles);
 
+    /** As the constructor compares. */
     static bool isTitle(const QString &text, Column column);
 
     bool has(Column column) const { return m_indexes[column] >= 0; }
@@ -43,7 +48,7 @@ public:
     QString missingTitle() const;
 
 private:
-    std::array<int, columnCount> m_indexes;
+    std::array<int, columnCount> m_indexes; ///< -1: not there
     int m_width = 0;
 };
 

@@ -26,8 +26,8 @@ public:
     void read(QIODevice &device, const QString &delimiter, QTextCodec *codec);
 
 private:
-    PaymentSink &m_sink;
-    const DecimalFormat &m_amountFormat;
+    PaymentSink &m_sink;                 ///< not owned
+    const DecimalFormat &m_amountFormat; ///< not owned
 };
 
 #endif

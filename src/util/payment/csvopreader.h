@@ -19,8 +19,8 @@ public:
     void read(QIODevice &device, QTextCodec *codec);
 
 private:
-    PaymentSink &m_sink;
-    const DecimalFormat &m_amountFormat;
+    PaymentSink &m_sink;                 ///< not owned
+    const DecimalFormat &m_amountFormat; ///< not owned
 };
 
 #endif

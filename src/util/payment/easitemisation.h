@@ -30,6 +30,7 @@ public:
     /** @param sink  not owned */
     explicit EASItemisation(PaymentSink &sink) : m_sink(sink) {}
 
+    /** In the order of the file. Nothing is sure to be reported before end(). */
     void add(const EASEntry &entry);
     /**
      * Reports damage in its place among the payments.
@@ -48,25 +49,25 @@ private:
         QString found;
     };
 
-    bool belongsToOther(const EASEntry &entry) const;
-    void finishPart(bool counts);
-    void addPart(const EASEntry &part);
-    void decide();
-    void place(const Held &damage);
-    void releaseHeld(bool parts);
-    void reportWhole();
-    void report(const EASEntry &entry);
-    void reject(const EASEntry &entry);
+    bool belongsToOther(const EASEntry &entry) const; ///< another transaction number: the itemisation above is over
+    void finishPart(bool counts);                     ///< false: its own parts take its place
+    void addPart(const EASEntry &part);               ///< holds it while no part had a reference
+    void decide();                      ///< too much to hold: the whole is reported, further parts are passed over
+    void place(const Held &damage);     ///< holds damage until the payments before it are out
+    void releaseHeld(bool parts);       ///< @param parts  whether held parts are reported or dropped; damage always is
+    void reportWhole();                 ///< without a reference when it is of many payments
+    void report(const EASEntry &entry); ///< passes over what is not booked, rejects what does not fit a payment
+    void reject(const EASEntry &entry); ///< as its amount
 
-    PaymentSink &m_sink;
-    std::optional<EASEntry> m_entry;
-    std::optional<EASEntry> m_part; ///< the last one: what follows tells whether it has parts itself
-    QVector<Held> m_partDamage;     ///< found below that part
-    QVector<Held> m_held;           ///< until a part with a reference comes
-    qint64 m_partsTotal = 0;        ///< cents
-    int m_levelReported = 0;        ///< parts below this level are within a part that was reported; 0: none
-    bool m_partsReported = false;
-    bool m_damaged = false;
+    PaymentSink &m_sink;             ///< not owned
+    std::optional<EASEntry> m_entry; ///< the entry of level 0, until its parts are known
+    std::optional<EASEntry> m_part;  ///< the last one: what follows tells whether it has parts itself
+    QVector<Held> m_partDamage;      ///< found below that part
+    QVector<Held> m_held;            ///< until a part with a reference comes
+    qint64 m_partsTotal = 0;         ///< cents
+    int m_levelReported = 0;         ///< parts below this level are within a part that was reported; 0: none
+    bool m_partsReported = false;    ///< the whole will not be
+    bool m_damaged = false;          ///< a part may be lost: totals are not compared
 };
 
 #endif

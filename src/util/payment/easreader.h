@@ -28,18 +28,22 @@ public:
     void read(QIODevice &device);
 
 private:
-    struct RecordType;
+    struct RecordType; ///< what a record code means and where its record may stand
+    /** Of a record below a transaction, kept until its place in the order is known. */
     struct Damage {
-        qint64 line;
-        const FixedField *field;
+        qint64 line;             ///< from 1
+        const FixedField *field; ///< of EASFields
         QString found;
     };
+    /** What T00 tells for the transactions below; empty texts when it could not be read. */
     struct Statement {
-        QString iban, bban, timestamp, currency;
+        QString iban, bban, timestamp, currency; ///< `timestamp` is YYMMDDHHMM as written
     };
 
-    static const RecordType *recordType(const QString &code);
+    static const RecordType *recordType(const QString &code); ///< null for an unknown code
+    /** Rejects codes and lengths that are wrong, else calls the reader of the type. */
     void readRecord(const BankFileLines &lines);
+    /** One record each. A field that does not read rejects the record, of a statement the field only. */
     void readStatement(FixedRecord &record);
     void readTransaction(FixedRecord &record);
     void readAdditionalInformation(FixedRecord &record);
@@ -47,22 +51,24 @@ private:
     void readPayerName(FixedRecord &record);
     void readCreditTransfer(FixedRecord &record);
     void readBalance(FixedRecord &record);
-    void pass(FixedRecord &) {}
+    void pass(FixedRecord &) {} ///< nothing to read
 
-    void startStatement();
+    void startStatement(); ///< what follows is not of the account above, whether T00 reads or not
+    /** One with code 9 changes no balance; a foreign currency is rejected. */
     void addTransaction(EASEntry entry, QChar transactionCode);
-    void setPayerName(const QString &name);
-    void finishTransaction();
-    void finishEntry();
+    void setPayerName(const QString &name); ///< only of deposits, and only a name that is not blank
+    void finishTransaction();               ///< hands it to the itemisation, its damage behind it
+    void finishEntry();                     ///< also the itemisation ends
+    /** Without a type the record may have been a transaction: balances are not compared until the next one. */
     void rejectDamaged(const RecordType *type, const FixedField &field, const QString &found);
 
-    PaymentSink &m_sink;
-    EASItemisation m_itemisation;
-    std::optional<Statement> m_statement;
+    PaymentSink &m_sink;                   ///< not owned
+    EASItemisation m_itemisation;          ///< reports to the same sink
+    std::optional<Statement> m_statement;  ///< none before the first T00
     std::optional<EASEntry> m_transaction; ///< the last one: additional information may follow
     QVector<Damage> m_belowTransaction;    ///< in its additional information
     std::optional<__int128> m_balance;     ///< cents; not known after damage until the next balance record
-    qint64 m_line = 0;
+    qint64 m_line = 0;                     ///< of the record that is read, from 1
 };
 
 #endif

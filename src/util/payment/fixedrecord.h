@@ -6,9 +6,9 @@
 
 /** A field's place in a record of a fixed-width file, and its name in messages. */
 struct FixedField {
-    const char *name;
-    int position; ///< of its first character, from 1
-    int length;
+    const char *name; ///< in English, for messages; a literal
+    int position;     ///< of its first character, from 1
+    int length;       ///< in characters, which are bytes in the banks' sets
 };
 
 /**
@@ -17,10 +17,12 @@ struct FixedField {
  */
 class FixedRecord {
 public:
-    explicit FixedRecord(const QString &text) : m_text(text) {}
+    explicit FixedRecord(const QString &text) : m_text(text) {} ///< without its line end
 
+    /** Of what the file holds, perhaps less than the record's length. */
     int size() const { return m_text.size(); }
     QString text(const FixedField &field) const; ///< always of the field's length
+    /** Without blanks on either side. */
     QString trimmed(const FixedField &field) const { return text(field).trimmed(); }
     /** A name in plain letters: 7-bit files write `{` for `ä` (SFS 4017), and no name holds a brace. */
     QString name(const FixedField &field) const;
@@ -29,6 +31,7 @@ public:
 
     /** ASCII digits only, at most 18. @return 0 on failure */
     qint64 number(const FixedField &field);
+    /** The whole field. @return the text as it is on failure */
     QString digits(const FixedField &field);
     /** YYMMDD of this century. */
     QDate date(const FixedField &field);
@@ -39,16 +42,16 @@ public:
     /** Digits without leading zeros, perhaps within an RF reference; blanks or zeros only are no reference. */
     QString reference(const FixedField &field);
     /** @param allowed  the characters that a field of one character may hold */
-    QChar code(const FixedField &field, const char *allowed);
+    QChar code(const FixedField &field, const char *allowed); ///< the character itself, also on failure
 
     /** @return the first field that did not read, null when all did */
     const FixedField *failedField() const { return m_failed; }
 
 private:
-    void fail(const FixedField &field);
+    void fail(const FixedField &field); ///< keeps the first one only
 
     QString m_text;
-    const FixedField *m_failed = nullptr;
+    const FixedField *m_failed = nullptr; ///< not owned: fields are constants
 };
 
 #endif

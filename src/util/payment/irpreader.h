@@ -26,28 +26,32 @@ public:
     void read(QIODevice &device);
 
 private:
+    /** Of one kind of record. */
     struct Tally {
         qint64 count = 0;
-        qint64 cents = 0;
+        qint64 cents = 0; ///< unsigned sum
     };
+    /** From a record 0 to its record 9. */
     struct Batch {
-        bool open = false;
+        bool open = false;    ///< also when the header was lost
         bool damaged = false; ///< a record could not be read: totals tell nothing
         Tally payments, corrections, failedDebits;
-        QString timestamp;
+        QString timestamp; ///< YYMMDDHHMM as written; empty without a header
     };
 
+    /** By the first character; what is unknown or too long damages the batch. */
     void readRecord(const BankFileLines &lines);
+    /** Fields that do not read are rejected by name, the first of each record only. */
     void readHeader(FixedRecord &record);
     void readPayment(FixedRecord &record);
     void readSummary(FixedRecord &record);
-    void endBatch(const QString &found);
-    bool rejectFailed(const FixedRecord &record);
-    void reject(const FixedField &field, const QString &found);
+    void endBatch(const QString &found); ///< rejects a batch without record 9. @param found  what stands in its place
+    bool rejectFailed(const FixedRecord &record); ///< @return whether a field failed; the batch is then damaged
+    void reject(const FixedField &field, const QString &found); ///< at m_line
 
-    PaymentSink &m_sink;
+    PaymentSink &m_sink; ///< not owned
     Batch m_batch;
-    qint64 m_line = 0;
+    qint64 m_line = 0; ///< of the record that is read, from 1
 };
 
 #endif

@@ -32,6 +32,10 @@ public:
     QString lastError() const { return m_lastError; } ///< empty when all was read
 
     // The payment that is being reported; see PaymentRecord.
+    /**
+     * The payment that is being reported; see PaymentRecord. Valid from within PaymentListener::payment() until the
+     * next one.
+     */
     QString timestamp() const { return m_payment.timestamp; }
     QString iban() const { return m_payment.iban; }
     QString bban() const { return m_payment.bban; }
@@ -47,6 +51,7 @@ public:
     qint64 lineNumber() const { return m_payment.lineNumber; } ///< from 1
 
     // The reader of each format, from the place where the file stands.
+    /** The reader of each format, from the place where the file stands: what cannot be read goes to the listener. */
     void readEASFile(QFile &file);
     void readIRPFile(QFile &file);
     void readCSVOpFile(QFile &file);
@@ -60,14 +65,15 @@ public:
     static QString parseCSVReferenceNumber(const QString &text);
 
 private:
-    void accept(const PaymentRecord &payment) override;
+    void accept(const PaymentRecord &payment) override; ///< hands the payment to the listener
+    /** Makes the message of the listener; a long text is cut to 200 characters. */
     void reject(qint64 lineNumber, const char *field, const QString &found) override;
 
-    PaymentListener *m_listener;
-    QString m_lastError;
-    const char *m_format = "";
-    PaymentRecord m_payment;
-    DecimalFormat m_amountFormat;
+    PaymentListener *m_listener;  ///< not owned
+    QString m_lastError;          ///< the text of the last damage, as the listener got it
+    const char *m_format = "";    ///< a literal; empty before the first file
+    PaymentRecord m_payment;      ///< the last one that was accepted
+    DecimalFormat m_amountFormat; ///< of cents
 };
 
 #endif

@@ -11,7 +11,7 @@ public:
     virtual ~PaymentListener() = default;
 
     /** One payment was read: the reader's accessors tell its fields until this returns. */
-    virtual void payment(const PaymentFileReader &reader) = 0;
+    virtual void payment(const PaymentFileReader &reader) = 0; ///< may keep nothing of `reader` but copies
 
     /**
      * Something could not be read, or does not add up. Reading goes on with the next record where it can.

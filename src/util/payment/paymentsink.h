@@ -6,7 +6,7 @@
 /** Takes what the reader of one format finds, in file order. */
 class PaymentSink {
 public:
-    virtual void accept(const PaymentRecord &payment) = 0;
+    virtual void accept(const PaymentRecord &payment) = 0; ///< the record is complete and its amount fits
 
     /**
      * @param field  the name of the field that cannot be read
@@ -15,7 +15,7 @@ public:
     virtual void reject(qint64 lineNumber, const char *field, const QString &found) = 0;
 
 protected:
-    ~PaymentSink() = default;
+    ~PaymentSink() = default; ///< no sink is deleted through this class
 };
 
 #endif
