@@ -12,8 +12,8 @@
 
 /** What use cases tell this program. A base of the context, so that it is there before they are. */
 struct CommandReports {
-    Diagnostics diagnostics;
-    CommandStatus status{diagnostics};
+    Diagnostics diagnostics;           ///< before the status, which refers to it
+    CommandStatus status{diagnostics}; ///< the outcome of the present command line
 };
 
 /** What a command works with. Lives as long as the run. */
@@ -26,13 +26,13 @@ public:
     {
     }
 
-    ResponseWriter response;
-    ValueParser values;
-    CriteriaParser criteria;
+    ResponseWriter response; ///< one response at a time
+    ValueParser values;      ///< failures go to the status
+    CriteriaParser criteria; ///< refers to `values` and to the finder of the use cases
 };
 
 /** Whether a saving command adds a record or changes one; how a search command treats what it finds. */
 enum class SaveCommandMode { add = 0, edit = 1 };
-enum class FindCommandMode { find = 0, remove = 1 };
+enum class FindCommandMode { find = 0, remove = 1 }; ///< remove answers with a number instead of records
 
 #endif

@@ -33,21 +33,25 @@ public:
     CommandInterface(const QString &title, const QString &helpFile, QObject *parent);
 
     /** The words after the program's name, for start(). */
+    /** Before start(): without any the lines of standard input are executed. */
     void setArguments(const QStringList &arguments) { m_arguments = arguments; }
 
+    /** Owned. */
     CommandContext &context() { return m_context; }
 
     /** Executes one command line; a command that fails ends it with one error response. */
+    /** @param args  consumed, up to the command that fails */
     void parseArguments(QStringList &args);
     /** Executes the lines of standard input, each as a command line of its own. */
     void readCommandsFromStdin();
 
     // The shared commands
     QString parseConfigCommand(QStringList &args); ///< takes the settings file's name; only a leading -c has an effect
-    void parseDatabaseCommand(QStringList &args);
+    void parseDatabaseCommand(QStringList &args);  ///< the database's number in the list; no number is 0, the last used
+    /** To standard error; no response. */
     void printUsage() const;
     void printVersion() const;
-    void beVerbose() { m_context.diagnostics.verbose = true; }
+    void beVerbose() { m_context.diagnostics.verbose = true; } ///< until the program ends
 
 public slots:
     /** Runs the whole program once, and asks the application to end with the exit code. */
@@ -57,6 +61,7 @@ protected:
     /** @return the row of the program's own table for the word, or null */
     virtual const Command *findCommand(const QString &word) const = 0;
 
+    /** @return a row of static life, null for none */
     template <std::size_t n> static const Command *findIn(const Command (&table)[n], const QString &word)
     {
         for (const Command &command : table) {
@@ -67,10 +72,10 @@ protected:
     }
 
 private:
-    const QString m_title;
-    const QString m_helpFile;
+    const QString m_title;    ///< in front of the version
+    const QString m_helpFile; ///< UTF-8, a path in the resources
     QStringList m_arguments;
-    Registry m_registry;
+    Registry m_registry; ///< must come before the context
     CommandContext m_context;
 };
 

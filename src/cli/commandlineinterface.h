@@ -7,9 +7,11 @@
 class CommandLineInterface : public CommandInterface {
     Q_OBJECT
 public:
+    /** @param parent  owns this */
     explicit CommandLineInterface(QObject *parent);
 
 protected:
+    /** Letter case counts; the first row with the word. */
     const Command *findCommand(const QString &word) const override;
 };
 

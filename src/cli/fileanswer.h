@@ -5,6 +5,7 @@
 
 #include <QDir>
 
+/** The records of what was written. */
 namespace FileAnswer {
 
 /** Begins a `file` record; the caller ends it. */

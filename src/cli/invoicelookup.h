@@ -10,6 +10,7 @@
  */
 namespace InvoiceLookup {
 
+/** Takes the invoice as the one that is named. @return true */
 template <class State> bool use(State &state, const Invoice &invoice)
 {
     state.record.invoiceId = invoice.id;
@@ -17,6 +18,7 @@ template <class State> bool use(State &state, const Invoice &invoice)
     return true;
 }
 
+/** "@" is the invoice saved last. The invoice must exist; false with the status set, and state unchanged, otherwise. */
 template <class State> bool byId(CommandContext &context, const QString &key, const QString &value, State &state)
 {
     int id = 0;
@@ -25,6 +27,7 @@ template <class State> bool byId(CommandContext &context, const QString &key, co
            context.finder.findInvoiceById(id, &invoice) && use(state, invoice);
 }
 
+/** The same by the number that people see; only ASCII digits with an optional sign are one. */
 template <class State> bool byNumber(CommandContext &context, const QString &key, const QString &value, State &state)
 {
     int number = 0;

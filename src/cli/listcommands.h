@@ -23,6 +23,10 @@
  *     forget(registry, record)           takes it out of the cached list
  */
 
+/**
+ * Saves in one transaction of its own and answers with the record. On failure the status is set, nothing is answered
+ * and nothing stored.
+ */
 template <class Kind> void saveListRecord(CommandContext &context, QStringList &args, SaveCommandMode mode)
 {
     if (!context.session.ensureOpen())
@@ -56,6 +60,10 @@ template <class Kind> void saveListRecord(CommandContext &context, QStringList &
     context.response.endResponse();
 }
 
+/**
+ * @param count  set on success only
+ * @return false, with the status set and nothing removed
+ */
 template <class Kind> bool removeListRecords(CommandContext &context, const typename Kind::Search &search, int &count)
 {
     WriteTransaction transaction(context.session);
@@ -82,6 +90,7 @@ template <class Kind> bool removeListRecords(CommandContext &context, const type
     return true;
 }
 
+/** Finds in the cached list, removes in a list read again within the transaction. Keys that are not given match all. */
 template <class Kind> void findListRecords(CommandContext &context, QStringList &args, FindCommandMode mode)
 {
     if (!context.session.ensureOpen())

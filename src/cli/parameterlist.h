@@ -10,6 +10,7 @@
 using ParameterList = QList<QPair<QString, QString>>;
 
 /** Takes the words up to the next one that begins with "-" off the front. */
+/** "=" ends the key at its first place: a value may hold further ones. */
 ParameterList parseParameters(QStringList &args);
 
 #endif

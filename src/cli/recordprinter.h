@@ -12,6 +12,10 @@ class ResponseWriter;
 /** The records of responses: one record each, with the properties that programs read, in a fixed order. */
 namespace RecordPrinter {
 
+/**
+ * Prices have four decimals, sums two, quantities four, percentages two; trailing zeros are cut to each one's least.
+ * Dates are ISO 8601, "" for none.
+ */
 void printBankAccount(ResponseWriter &response, const BankAccount &account);
 void printCustomer(ResponseWriter &response, const Customer &customer);
 void printProduct(ResponseWriter &response, const Product &product);

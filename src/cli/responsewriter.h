@@ -12,17 +12,26 @@
  */
 class ResponseWriter {
 public:
+    /** @param descriptor  not owned; may be set not to wait */
     explicit ResponseWriter(int descriptor);
 
+    /** Begins a JSON object. @param status  "OK" or "ERROR" */
     void startResponse(const QString &status);
+    /** Members of the response itself, to be written before its first record. */
     void printMessage(const QString &message);
     void printNumRemoved(int count);
+    /** Records lie in one array and do not nest; properties belong to the record that was started last. */
     void startRecord(const QString &recordType);
     void endRecord();
+    /** Writes the rest, and an empty line behind it. Nobody is told when the reader is gone. */
     void endResponse();
     /** Ends a response that cannot be completed: it is taken back unless a part of it was written already. */
     void abandonResponse();
 
+    /**
+     * @param name      ASCII, not escaped; a literal
+     * @param rawValue  JSON as it is to stand
+     */
     void printRawProperty(const char *name, const QString &rawValue);
     void printProperty(const char *name, const QString &value);
     void printProperty(const char *name, int value);
@@ -39,16 +48,16 @@ public:
     static QString formatJsonString(const QString &text);
 
 private:
-    void startProperty(const char *name);
-    void appendJsonString(const QString &text);
-    void write();
+    void startProperty(const char *name);       ///< with its comma where one is needed
+    void appendJsonString(const QString &text); ///< see formatJsonString()
+    void write();                               ///< all that is gathered, whole; waits for a slow reader
 
-    int m_descriptor;
-    QString m_buffer;
-    bool m_noRecordsYet = true;
-    bool m_firstProperty = true;
-    bool m_wasWritten = false; ///< a part of the current response
-    DecimalFormat m_amountFormat, m_totalFormat, m_quantityFormat, m_percentageFormat;
+    int m_descriptor;            ///< not owned
+    QString m_buffer;            ///< what is not written yet
+    bool m_noRecordsYet = true;  ///< of the current response
+    bool m_firstProperty = true; ///< of the current record
+    bool m_wasWritten = false;   ///< a part of the current response
+    DecimalFormat m_amountFormat, m_totalFormat, m_quantityFormat, m_percentageFormat; ///< decimal point "."
 };
 
 #endif

@@ -39,6 +39,7 @@ template <class Kind> int removeFound(CommandContext &context, const typename Ki
     return transaction.commit() ? ids.size() : -1;
 }
 
+/** Finds, or removes in one transaction and answers with the number. Without any keys removing takes all. */
 template <class Kind> void runSearchCommand(CommandContext &context, QStringList &args, FindCommandMode mode)
 {
     if (!context.session.ensureOpen())
