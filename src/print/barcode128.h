@@ -13,6 +13,7 @@ public:
      * @param pattern  the widths of bar, space, bar, … in modules, as the digits of a decimal number
      * @return the x just past the character
      */
+    /** Fills from the painter's coordinates, black. */
     static int drawBars(QPainter *painter, int x, int y, int moduleWidth, int height, int pattern);
 
     /**
@@ -24,7 +25,7 @@ public:
     static void renderC(QPainter *painter, int x, int y, int width, int height, const QString &digits);
 
     /** The element patterns of symbol values 0 to 102. */
-    static const int charset[103];
+    static const int charset[103]; ///< decimal digits, the first element is a bar
 };
 
 #endif

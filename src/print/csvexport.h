@@ -27,27 +27,28 @@ public:
     [[nodiscard]] static bool save(const QString &fileName, const QString &delimiter, QString &error,
                                    const std::function<void(CsvExport &)> &write);
 
+    /** Quoted where CSV::writeField() does; the line ends in CR LF (RFC 4180). */
     void field(const QString &value) { m_csv.writeField(value); }
     void endLine() { m_csv.writeLine(); }
 
-    QString price(long long amount) const; ///< four decimals
-    QString sum(long long cents) const;
+    QString price(long long amount) const;    ///< four decimals
+    QString sum(long long cents) const;       ///< two decimals
     QString quantity(long long amount) const; ///< four decimals
-    QString percentage(int hundredths) const;
-    static QString date(const QDate &date); ///< empty for an invalid date
+    QString percentage(int hundredths) const; ///< two decimals at most
+    static QString date(const QDate &date);   ///< empty for an invalid date
 
 private:
-    CsvExport(OutputFile &file, const QString &delimiter);
+    CsvExport(OutputFile &file, const QString &delimiter); ///< neither is copied: both outlive this
 
-    QTextStream m_stream;
-    CSV m_csv;
-    DecimalFormat m_priceFormat, m_sumFormat, m_quantityFormat, m_percentageFormat;
+    QTextStream m_stream;                                                           ///< on the file's device, UTF-8
+    CSV m_csv;                                                                      ///< on m_stream
+    DecimalFormat m_priceFormat, m_sumFormat, m_quantityFormat, m_percentageFormat; ///< of the system's locale
 };
 
 /** A column of an export: its translatable title and how a line's text is made of what the line knows. */
 template <class Line> struct CsvColumn {
-    const char *title;
-    QString (*value)(const Line &line);
+    const char *title;                  ///< Finnish, in the translation context of the model
+    QString (*value)(const Line &line); ///< a text in its final form, not yet quoted
 };
 
 /** Writes the titles of a table of columns, translated in the context of Model, and a line of them. */

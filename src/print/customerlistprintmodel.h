@@ -21,6 +21,7 @@ public:
 
     /** Appends every customer of the registry, removed ones excepted, in its order. */
     void copyCustomersFromRegistry();
+    /** Stays the caller's, must outlive the model. */
     void addCustomer(Customer *customer) { m_customers.append(customer); }
     /**
      * Sorts stably; texts are compared by code units.
@@ -28,19 +29,22 @@ public:
      */
     void sort(int order);
 
+    /** See PrintModel. Values are those of the customers as they stand when asked for. */
     QString title() const override { return tr("Asiakasluettelo"); }
     QString lastError() const override { return m_lastError; }
     using PrintModel::value;
     QVariant value(QStringList &path) override;
+    /** The error of a failure stays in lastError(). */
     [[nodiscard]] bool exportToCSV(const QString &fileName, const QString &format) override;
 
+    /** Not owned; in the order of the last sort(). */
     const QList<Customer *> &customers() const { return m_customers; }
-    const Registry &registry() const { return *m_registry; }
+    const Registry &registry() const { return *m_registry; } ///< for the seller's name
 
 private:
-    Registry *m_registry;
-    QList<Customer *> m_customers;
-    QString m_lastError;
+    Registry *m_registry;          ///< not owned
+    QList<Customer *> m_customers; ///< not owned
+    QString m_lastError;           ///< of exportToCSV(); empty before a failure
 };
 
 #endif

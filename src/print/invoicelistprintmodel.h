@@ -34,10 +34,11 @@ public:
     };
     static constexpr int defaultColumnFlags = 0x1ff; ///< all but the balance and the reference number
 
+    /** A line of the list. */
     struct Entry {
         Invoice invoice;        ///< without the fields that no list shows
         int totalVatAmount = 0; ///< cents
-        Vat vat;
+        Vat vat;                ///< of the invoice's rows
     };
 
     /** @param registry  not owned */
@@ -58,32 +59,35 @@ public:
      */
     void sort(int order);
 
+    /** See PrintModel. The columns of the CSV file are fixed, but for those that the settings file adds. */
     QString title() const override { return tr("Laskuluettelo"); }
     QString lastError() const override { return m_lastError; }
     using PrintModel::value;
     QVariant value(QStringList &path) override;
+    /** The error of a failure stays in lastError(). */
     [[nodiscard]] bool exportToCSV(const QString &fileName, const QString &format) override;
 
-    const QVector<Entry> &entries() const { return m_entries; }
-    const Vat &vat() const { return m_vat; } ///< of all rows of all entries
-    long long totalBalance() const;
-    const Customer *customer(const Entry &entry) const; ///< null when the registry does not know it
-    const Registry &registry() const { return *m_registry; }
-    const QStringList &criteriaStrings() const { return m_criteriaStrings; }
+    const QVector<Entry> &entries() const { return m_entries; } ///< valid until the next run() or sort()
+    const Vat &vat() const { return m_vat; }                    ///< of all rows of all entries
+    long long totalBalance() const;                             ///< cents; 64 bits, a list goes beyond an invoice
+    const Customer *customer(const Entry &entry) const;         ///< null when the registry does not know it
+    const Registry &registry() const { return *m_registry; }    ///< not owned
+    const QStringList &criteriaStrings() const { return m_criteriaStrings; } ///< one line each, made by run()
 
 private:
+    /** Each fills what its name tells from m_criteria; rows go into the sums of their entry and of the list. */
     void buildCriteriaStrings();
     bool addRows(class Query &query);
-    bool fail(const QString &error);
+    bool fail(const QString &error); ///< empties the list. @return false
 
-    Registry *m_registry;
-    InvoiceCriteria m_criteria;
+    Registry *m_registry;       ///< not owned
+    InvoiceCriteria m_criteria; ///< conditions of run()
     int m_columnFlags = defaultColumnFlags;
-    int m_sortOrder = byNumber;
-    QVector<Entry> m_entries;
-    Vat m_vat;
-    QStringList m_criteriaStrings;
-    QString m_lastError;
+    int m_sortOrder = byNumber;    ///< a SortOrder
+    QVector<Entry> m_entries;      ///< in the order shown
+    Vat m_vat;                     ///< by the rounding mode of the settings
+    QStringList m_criteriaStrings; ///< see CriteriaTexts
+    QString m_lastError;           ///< empty before a failure
 };
 
 #endif

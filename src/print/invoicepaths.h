@@ -15,9 +15,10 @@ namespace InvoicePaths {
 QVariant value(InvoicePrintModel &model, QStringList &path);
 
 /** Resolves below an invoice, the seller and the settings. */
+/** Customers that the registry does not know give invalid values. */
 QVariant invoice(InvoicePrintModel &model, const Invoice &invoice, QStringList &path);
 QVariant seller(InvoicePrintModel &model, QStringList &path);
-QVariant settings(InvoicePrintModel &model, QStringList &path);
+QVariant settings(InvoicePrintModel &model, QStringList &path); ///< of the database, not of the settings file
 
 /** Resolves below `vat`: the sums of each rate, in cents. */
 QVariant vat(const Vat &vat, QStringList &path);

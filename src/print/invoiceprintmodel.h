@@ -34,9 +34,11 @@ public:
     explicit InvoicePrintModel(Registry *registry, QObject *parent = nullptr);
     ~InvoicePrintModel() override;
 
+    /** A PrintType; ownType lets each invoice keep its own. */
     int printType() const { return m_printType; }
     void setPrintType(int type) { m_printType = type; }
     void setTitle(const QString &title) { m_title = title; }
+    /** See PrintModel; the title is "Lasku", translated, unless set. */
     QString title() const override { return m_title; }
     QString lastError() const override { return m_lastError; }
     /** Owned by the model; filled in before run(). */
@@ -46,12 +48,14 @@ public:
     [[nodiscard]] bool run() override;
     /** Appends an invoice of another model, with its rows. */
     void copyInvoice(InvoicePrintModel *source, int index);
-    void copyBankAccounts();
+    void copyBankAccounts(); ///< anew from the registry; done by the constructor too
     /** Forgets the invoices; criteria, print type and title stay. */
     void clear();
 
+    /** The pointer is valid until invoices are added or cleared; the index is not checked. */
     int invoiceCount() const { return m_invoices.size(); }
     Invoice *invoice(int index) { return &m_invoices[index]; }
+    /** In the order of the rows; empty for an invoice without. */
     const QVector<InvoiceItem> &items(const Invoice &invoice) const;
     /** The sums of an invoice's rows; valid until those of another invoice are asked for. */
     const Vat &vat(const Invoice &invoice) const;
@@ -69,8 +73,9 @@ public:
 
     using PrintModel::image;
     using PrintModel::value;
-    QVariant value(QStringList &path) override;
-    QImage image(QStringList &path) override;
+    QVariant value(QStringList &path) override; ///< see InvoicePaths
+    QImage image(QStringList &path) override;   ///< `seller/logo` is the only one
+    /** One line a row of an invoice, see PrintModel. */
     [[nodiscard]] bool exportToCSV(const QString &fileName, const QString &format) override;
 
     // What the keys vatNumber, businessId and hasVatNumber of a customer tell.
@@ -79,19 +84,19 @@ public:
     virtual bool customerHasVatNumber(Customer *customer) const;
 
 private:
-    void setRoundingMode();
+    void setRoundingMode(); ///< of m_vat, by the settings
 
-    Registry *m_registry;
-    InvoiceCriteria m_criteria;
-    int m_printType = ownType;
+    Registry *m_registry;       ///< not owned
+    InvoiceCriteria m_criteria; ///< conditions of run()
+    int m_printType = ownType;  ///< a PrintType
     QString m_title;
-    QString m_lastError;
-    QList<Invoice> m_invoices;
-    QHash<int, QVector<InvoiceItem>> m_items; ///< by invoice id
-    QList<BankAccount> m_bankAccounts;
-    QList<BankAccount> m_visibleBankAccounts;
-    mutable std::optional<QImage> m_logo; ///< decoded when first asked for
-    mutable Vat m_vat;
+    QString m_lastError;                           ///< empty before a failure
+    QList<Invoice> m_invoices;                     ///< in the order of the criteria
+    QHash<int, QVector<InvoiceItem>> m_items;      ///< by invoice id
+    QList<BankAccount> m_bankAccounts;             ///< copies, in the seller's order
+    QList<BankAccount> m_visibleBankAccounts;      ///< those of them that are printed
+    mutable std::optional<QImage> m_logo;          ///< decoded when first asked for
+    mutable Vat m_vat;                             ///< of m_vatInvoice
     mutable const Invoice *m_vatInvoice = nullptr; ///< whose rows m_vat holds
 };
 

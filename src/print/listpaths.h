@@ -12,6 +12,7 @@ namespace ListPaths {
 /** `number`, `name` and the address of a customer; invalid when the registry does not know it. */
 QVariant customer(const Registry &registry, int customerId, QStringList &path);
 
+/** An invalid variant beyond the end. */
 /** `length` or an index. */
 QVariant texts(const QStringList &texts, QStringList &path);
 

@@ -39,9 +39,10 @@ public:
     };
     static constexpr int defaultColumnFlags = 0x3ff; ///< all
 
+    /** A payment and its invoice. */
     struct Entry {
         Invoice invoice; ///< what the journal shows of it; without its type, see invoiceType()
-        Payment payment;
+        Payment payment; ///< `amount` in cents
     };
 
     /** @param registry  not owned */
@@ -64,32 +65,34 @@ public:
      */
     void sort(int order);
 
+    /** See PrintModel. Failures of run() and of the export stay in lastError(). */
     QString title() const override { return tr("Suorituspäiväkirja"); }
     QString lastError() const override { return m_lastError; }
     using PrintModel::value;
     QVariant value(QStringList &path) override;
     [[nodiscard]] bool exportToCSV(const QString &fileName, const QString &format) override;
 
-    const QVector<Entry> &entries() const { return m_entries; }
-    int invoiceType(int invoiceId) const;
-    long long totalAmount() const;        ///< cents; an invoice with several payments counts once
-    long long totalPaymentAmount() const; ///< cents
+    const QVector<Entry> &entries() const { return m_entries; } ///< valid until the next run() or sort()
+    int invoiceType(int invoiceId) const;                       ///< an Invoice::Type; 0 when the invoice cannot be read
+    long long totalAmount() const;                              ///< cents; an invoice with several payments counts once
+    long long totalPaymentAmount() const;                       ///< cents
     // Null when the registry does not know it.
     const Customer *customer(const Entry &entry) const;
     const BankAccount *bankAccount(const Entry &entry) const;
-    const Registry &registry() const { return *m_registry; }
-    const QStringList &criteriaStrings() const { return m_criteriaStrings; }
+    const Registry &registry() const { return *m_registry; }                 ///< not owned
+    const QStringList &criteriaStrings() const { return m_criteriaStrings; } ///< one line each, made by run()
 
 private:
-    Registry *m_registry;
+    Registry *m_registry; ///< not owned
+    /** Both must hold. */
     InvoiceCriteria m_invoiceCriteria;
     PaymentCriteria m_paymentCriteria;
     int m_columnFlags = defaultColumnFlags;
-    int m_sortOrder = -1;
-    QVector<Entry> m_entries;
+    int m_sortOrder = -1;                                  ///< -1: as the search gives them, by date
+    QVector<Entry> m_entries;                              ///< in the order shown
     mutable std::optional<QHash<int, int>> m_invoiceTypes; ///< by invoice id; read when first asked for
-    QStringList m_criteriaStrings;
-    QString m_lastError;
+    QStringList m_criteriaStrings;                         ///< see CriteriaTexts
+    QString m_lastError;                                   ///< empty before a failure
 };
 
 #endif

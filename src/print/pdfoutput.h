@@ -21,19 +21,20 @@ public:
     ~PdfOutput();
 
     /** To be called before the painter begins, which would only warn on standard error. */
-    [[nodiscard]] bool open();
+    [[nodiscard]] bool open(); ///< also makes the temporary file, in which nobody could have put a link
     /** To be called when the painter has ended. @return whether the document is in the file */
     [[nodiscard]] bool commit();
+    /** The system's own text or a translated one; null until a failure. */
     QString errorString() const { return m_errorString; }
 
 private:
-    bool fail(const QString &message);
-    bool isWritten() const;
+    bool fail(const QString &message); ///< keeps the message. @return false
+    bool isWritten() const;            ///< looks for the end mark %%EOF: the library reports no error of writing
 
-    QPrinter *m_printer;
+    QPrinter *m_printer;      ///< not owned
     const QString m_fileName; ///< as given; empty for no file
-    ReplacedFile m_place;
-    QString m_errorString;
+    ReplacedFile m_place;     ///< without a place for pipes and for printers that write no file
+    QString m_errorString;    ///< null until a failure
 };
 
 #endif

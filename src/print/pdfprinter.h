@@ -13,6 +13,10 @@
  */
 namespace PdfPrinter {
 
+/**
+ * @param fileName  empty: to be set before printing
+ * @return never null
+ */
 std::unique_ptr<QPrinter> create(const QString &fileName = QString());
 
 } // namespace PdfPrinter

@@ -19,6 +19,7 @@
 class PrintModel : public QObject {
     Q_OBJECT
 public:
+    /** Nothing is read before run(). */
     explicit PrintModel(QObject *parent = nullptr);
     ~PrintModel() override;
 
@@ -26,11 +27,11 @@ public:
     [[nodiscard]] virtual bool run();
     /** The document's title, for people. */
     virtual QString title() const = 0;
-    virtual QString lastError() const;
+    virtual QString lastError() const; ///< empty before a failure
 
     /** Splits the path at every "/", empty parts kept, and resolves it. */
     virtual QVariant value(const QString &path);
-    virtual QImage image(const QString &path);
+    virtual QImage image(const QString &path); ///< null for a path that leads to no image
 
     /**
      * Writes the model's rows as UTF-8 text. An existing file is replaced only once the new one is complete.
@@ -41,10 +42,10 @@ public:
 
     /** Resolves a path and takes the elements it uses off its front. */
     virtual QVariant value(QStringList &path) = 0;
-    virtual QImage image(QStringList &path);
+    virtual QImage image(QStringList &path); ///< null by default
 
     /** The field delimiter of a CSV format number: "," for 0, ";" for any other. */
-    static QString csvFormatToDelimiter(int format);
+    static QString csvFormatToDelimiter(int format); ///< nothing else is supported
 };
 
 #endif

@@ -28,15 +28,17 @@ public:
     PrintScriptEnvironment(PrintModel *model, QPrinter *printer, QPainter *painter, int fromPage, int toPage,
                            QObject *parent = nullptr);
 
-    Q_INVOKABLE QVariant get(const QString &path);
-    /** @param amount  cents, taken as a 32-bit integer */
+    Q_INVOKABLE QVariant get(const QString &path); ///< see PrintModel
+    /** @param amount  cents; two decimals, grouped as the locale does */
     Q_INVOKABLE QString formatCurrency(qlonglong amount);
-    /** @param number  has `scale` decimals; taken as a 32-bit integer. The digits set stay for later calls. */
+    /** @param number  has `scale` decimals, nine at most. The digits set stay for later calls. */
     Q_INVOKABLE QString formatNumber(qlonglong number, int scale, int minFractionDigits);
+    /** The format of QDate, with month names of the system. */
     Q_INVOKABLE QString formatDate(const QDate &date, const QString &format);
-    Q_INVOKABLE QDate currentDate();
+    Q_INVOKABLE QDate currentDate(); ///< of the system's clock and time zone
 
-    Q_INVOKABLE void newPage();
+    Q_INVOKABLE void newPage(); ///< counts outside the printed range too
+    /** In the pen and brush that are set; coordinates in millimetres. */
     Q_INVOKABLE void drawLine(double x1, double y1, double x2, double y2);
     Q_INVOKABLE void drawRect(double x, double y, double w, double h);
     Q_INVOKABLE void fillRect(double x, double y, double w, double h); ///< always black
@@ -55,40 +57,46 @@ public:
     Q_INVOKABLE bool isTextClipping() const { return m_textClipping; }
     Q_INVOKABLE void setLineHeight(double height) { m_lineHeight = height; } ///< negative: the font's own
     Q_INVOKABLE double lineHeight() const { return m_lineHeight; }
+    /** Of numbers only, "fi_FI"; a name that is not known is the C locale. */
     Q_INVOKABLE void setLocale(const QString &name);
 
     Q_INVOKABLE int orientation() const; ///< 1 portrait, 2 landscape
+    /** The area that is painted on and the whole sheet, hundredths of a millimetre. */
     Q_INVOKABLE QVariantList pageRect() const;
     Q_INVOKABLE QVariantList paperRect() const;
     /** The rectangle that drawText() would fill; a single line is measured uncut. */
     Q_INVOKABLE QVariantList boundingRect(double x, double y, double w, double h, const QString &alignment,
                                           const QString &text);
 
-    Q_INVOKABLE void setBrush(const QString &color);
+    Q_INVOKABLE void setBrush(const QString &color);             ///< `#RRGGBB` or a colour name of SVG 1.0
     Q_INVOKABLE void setPen(const QString &color, double width); ///< 0 or below: the thinnest line
     /** @param style  "light", "demiBold", "bold" or "black" at its start, "italic" at its end, in any letter case */
     Q_INVOKABLE void setFont(const QString &family, int pointSize, const QString &style);
 
 private:
+    /** By the resolution; rounded, and bounded so that sums stay within 32 bits. */
     int toPixels(double millimetres) const;
     QRect toPixels(double x, double y, double w, double h) const;
+    /** Of a millimetre. */
     int toHundredths(double pixels) const;
     QVariantList toHundredths(const QRect &rect) const;
-    QString clipped(const QString &text, int width) const;
+    QString clipped(const QString &text, int width) const; ///< the longest start that fits the width, in pixels
+    /** Breaks a text into the lines of a box and hands each on with the top left corner of its line box, in pixels. */
     void layOut(const QRect &box, Qt::Alignment alignment, const QString &text,
                 const std::function<void(const QTextLine &, const QPointF &)> &place) const;
 
+    /** None is owned; all outlive the run of the script. */
     PrintModel *m_model;
     QPrinter *m_printer;
     QPainter *m_painter;
-    const int m_resolution; ///< dots per inch
-    bool m_textClipping = true;
-    double m_lineHeight = -1.0;
-    DecimalFormat m_currencyFormat;
-    DecimalFormat m_numberFormat;
-    const int m_fromPage, m_toPage;
-    int m_page = 1;
-    bool m_painting;
+    const int m_resolution;         ///< dots per inch
+    bool m_textClipping = true;     ///< single lines only
+    double m_lineHeight = -1.0;     ///< millimetres; negative: the font's own
+    DecimalFormat m_currencyFormat; ///< cents
+    DecimalFormat m_numberFormat;   ///< its scale is that of the last formatNumber()
+    const int m_fromPage, m_toPage; ///< inclusive, from 1
+    int m_page = 1;                 ///< counts all pages, drawn or not
+    bool m_painting;                ///< whether m_page is within the range
 };
 
 #endif

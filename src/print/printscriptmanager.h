@@ -20,9 +20,10 @@ class PrintModel;
 class PrintScriptManager : public QObject {
     Q_OBJECT
 public:
+    /** Bits of supportedOrientations(). */
     enum SupportedOrientation { portrait = 1, landscape = 2 };
 
-    explicit PrintScriptManager(QObject *parent = nullptr);
+    explicit PrintScriptManager(QObject *parent = nullptr); ///< nothing is loaded yet
 
     /** Loads a UTF-8 file or resource. @return false, with nothing loaded, when it cannot be opened */
     [[nodiscard]] bool load(const QString &fileName);
@@ -32,6 +33,7 @@ public:
     /** Whether the loaded script has the function that makes a document. */
     bool isRunnable() const { return m_script.isRunnable(); }
 
+    /** See ScriptRunner; told for the last load or print only. */
     bool hasException() const { return m_script.hasException(); }
     QString exception() const { return m_script.exception(); }
     int exceptionLineNumber() const { return m_script.exceptionLineNumber(); }
@@ -40,11 +42,12 @@ public:
     /** What the script's function of that name returns, a set of SupportedOrientation; portrait without it. */
     int supportedOrientations() const;
 
+    /** Of the next print, whatever the script supports. */
     QPrinter::Orientation orientation() const { return m_orientation; }
     void setOrientation(QPrinter::Orientation orientation) { m_orientation = orientation; }
     QPagedPaintDevice::PageSize paperSize() const { return m_paperSize; }
     void setPaperSize(QPagedPaintDevice::PageSize size) { m_paperSize = size; }
-    PrintModel *model() const { return m_model; }
+    PrintModel *model() const { return m_model; }         ///< null until set
     void setModel(PrintModel *model) { m_model = model; } ///< not owned
 
     /**
@@ -64,17 +67,17 @@ public:
     /** Prints all pages of model(); nothing without a model. */
     Q_INVOKABLE void print(QPrinter *printer);
 
-    ScriptRunner &script() { return m_script; }
+    ScriptRunner &script() { return m_script; } ///< owned
 
 signals:
-    void exceptionUncaught();
+    void exceptionUncaught(); ///< after a print whose script threw
 
 private:
-    mutable ScriptRunner m_script;
-    QPrinter::Orientation m_orientation = QPrinter::Portrait;
-    QPagedPaintDevice::PageSize m_paperSize = QPagedPaintDevice::A4;
-    PrintModel *m_model = nullptr;
-    QString m_lastError;
+    mutable ScriptRunner m_script;                            ///< mutable: asking for orientations runs a function
+    QPrinter::Orientation m_orientation = QPrinter::Portrait; ///< set on the printer by every print
+    QPagedPaintDevice::PageSize m_paperSize = QPagedPaintDevice::A4; ///< set on the printer when the caller wants it
+    PrintModel *m_model = nullptr;                                   ///< not owned
+    QString m_lastError;                                             ///< empty when the last print left its document
 };
 
 #endif

@@ -23,6 +23,7 @@ public:
     /** An id that names no script loads the default layout. */
     [[nodiscard]] bool loadInvoiceScript(PrintScriptManager *manager, int id) const;
 
+    /** Built-in ones, which no database replaces: resources under `:/scripts`. */
     [[nodiscard]] bool loadInvoiceListScript(PrintScriptManager *manager) const;
     [[nodiscard]] bool loadPaymentListScript(PrintScriptManager *manager) const;
     [[nodiscard]] bool loadCustomerListScript(PrintScriptManager *manager) const;
@@ -35,10 +36,10 @@ public:
     [[nodiscard]] bool load(PrintScriptManager *manager, const QString &fileName) const;
 
     /** @return whether the id names a stored script; the record is unchanged when it does not */
-    [[nodiscard]] bool fetchPrintScript(int id, PrintScript *script) const;
+    [[nodiscard]] bool fetchPrintScript(int id, PrintScript *script) const; ///< not owned; filled with the source
 
 private:
-    Registry *m_registry;
+    Registry *m_registry; ///< not owned
 };
 
 #endif

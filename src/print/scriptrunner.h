@@ -54,6 +54,7 @@ public:
     /** Null until a script is loaded. */
     QScriptEngine *engine() const { return m_engine.get(); }
 
+    /** The exception of the last load or run, until the next one begins; texts are empty without one. */
     void clearExceptions();
     bool hasException() const { return m_engine && m_engine->hasUncaughtException(); }
     QString exception() const;
@@ -61,14 +62,15 @@ public:
     QStringList backTrace() const;
 
 private:
+    /** Within the time limit; the exception of before is forgotten. */
     QScriptValue evaluate(const QScriptProgram &program);
 
-    const char *m_prelude;
-    const QString m_entryPointName;
-    int m_timeLimitMs = timeLimitMs;
-    std::unique_ptr<QScriptEngine> m_engine;
-    QScriptValue m_entryPoint;
-    QScriptProgram m_call;
+    const char *m_prelude;                   ///< not owned
+    const QString m_entryPointName;          ///< a name in the script's global object
+    int m_timeLimitMs = timeLimitMs;         ///< of each evaluation
+    std::unique_ptr<QScriptEngine> m_engine; ///< a new one for every script
+    QScriptValue m_entryPoint;               ///< kept aside: scripts may set the global to something else
+    QScriptProgram m_call;                   ///< the call as a program, since only evaluation can be stopped
 };
 
 #endif

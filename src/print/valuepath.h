@@ -16,8 +16,8 @@ namespace ValuePath {
 
 /** A key of a level, and how its value is made of what the level knows (the context) and the rest of the path. */
 template <class... Context> struct Key {
-    const char *key;
-    QVariant (*value)(Context... context, QStringList &rest);
+    const char *key;                                          ///< one element; letter case counts
+    QVariant (*value)(Context... context, QStringList &rest); ///< takes the elements that it uses off `rest`
 };
 
 /** An int, as scripts have it; what is beyond 32 bits keeps its value. */

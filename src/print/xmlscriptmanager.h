@@ -19,7 +19,7 @@ class XmlScriptModel;
 class XmlScriptManager : public QObject {
     Q_OBJECT
 public:
-    explicit XmlScriptManager(QObject *parent = nullptr);
+    explicit XmlScriptManager(QObject *parent = nullptr); ///< nothing is loaded yet
 
     /** Loads a UTF-8 file or resource. @return false, with nothing loaded, when it cannot be opened */
     [[nodiscard]] bool load(const QString &fileName);
@@ -29,11 +29,13 @@ public:
     /** Whether the loaded script has the function that makes a document. */
     bool isRunnable() const { return m_script.isRunnable(); }
 
+    /** See ScriptRunner; told for the last load or write only. */
     bool hasException() const { return m_script.hasException(); }
     QString exception() const { return m_script.exception(); }
     int exceptionLineNumber() const { return m_script.exceptionLineNumber(); }
     QStringList backTrace() const { return m_script.backTrace(); }
 
+    /** Whether each document stands behind a frame, see SoapEnvelope; off unless set. */
     bool soapEnvEnabled() const { return m_soapEnvEnabled; }
     void setSoapEnvEnabled(bool enabled) { m_soapEnvEnabled = enabled; }
 
@@ -50,17 +52,19 @@ public:
     static bool writeSoapEnv(QIODevice *file, XmlScriptModel *model);
 
 signals:
-    void exceptionUncaught();
+    void exceptionUncaught(); ///< after a write whose script threw
 
 private:
-    QByteArray document(XmlScriptModel *model);
+    QByteArray document(XmlScriptModel *model); ///< runs the script; encoded, with its XML declaration
+    /** Frame and document. @return false when the device did not take all. */
     bool writeTo(QIODevice *file, XmlScriptModel *model);
+    /** Failures go to m_lastError; appending takes back what was written of a document that failed. */
     void replaceFile(const QString &fileName, XmlScriptModel *model);
     void appendToFile(const QString &fileName, XmlScriptModel *model);
 
-    ScriptRunner m_script;
-    bool m_soapEnvEnabled = false;
-    QString m_lastError;
+    ScriptRunner m_script;         ///< entry point `write`
+    bool m_soapEnvEnabled = false; ///< see setSoapEnvEnabled()
+    QString m_lastError;           ///< empty when the last write left its document
 };
 
 #endif

@@ -10,7 +10,7 @@
 class XmlScriptModel : public InvoicePrintModel {
     Q_OBJECT
 public:
-    explicit XmlScriptModel(Registry *registry, QObject *parent = nullptr);
+    explicit XmlScriptModel(Registry *registry, QObject *parent = nullptr); ///< not owned
     ~XmlScriptModel() override;
 
     /** Empty. */
@@ -18,6 +18,7 @@ public:
     using InvoicePrintModel::value;
     QVariant value(QStringList &path) override;
 
+    /** Both are made of the field `vatNumber`, whichever form it holds; empty, or false, when it is neither. */
     QString customerVatNumber(Customer *customer) const override;
     QString customerBusinessId(Customer *customer) const override;
     bool customerHasVatNumber(Customer *customer) const override;
