@@ -8,14 +8,7 @@
 
 #include <limits>
 
-PrintScriptManager::PrintScriptManager(QObject *parent) : QObject(parent), m_script(printPrelude, "print") {}
-
-bool PrintScriptManager::load(const QString &fileName) { return m_script.load(fileName); }
-
-bool PrintScriptManager::loadFromSource(const QString &source, const QString &fileName)
-{
-    return m_script.loadFromSource(source, fileName);
-}
+PrintScriptManager::PrintScriptManager(QObject *parent) : ScriptHost(printPrelude, "print", parent) {}
 
 int PrintScriptManager::supportedOrientations() const
 {

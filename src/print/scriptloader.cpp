@@ -3,62 +3,44 @@
 #include "database.h"
 #include "integer.h"
 #include "printscript.h"
-#include "printscriptmanager.h"
 #include "query.h"
 #include "registry.h"
+#include "scripthost.h"
 #include "settings.h"
-#include "xmlscriptmanager.h"
 
 #include <memory>
 
-bool ScriptLoader::loadInvoiceScript(PrintScriptManager *manager) const
+bool ScriptSource::load(ScriptHost &host) const
+{
+    return text ? host.loadFromSource(*text, fileName) : host.load(fileName);
+}
+
+ScriptSource ScriptLoader::invoiceScript() const
 {
     bool ok = false;
     const QString setting = m_registry->settings()->property(QStringLiteral("printScripts/invoice")).toString();
     const int id = Integer::parse(setting, ok);
-    return loadInvoiceScript(manager, ok ? id : -1);
+    return invoiceScript(ok ? id : -1);
 }
 
-bool ScriptLoader::loadInvoiceScript(PrintScriptManager *manager, int id) const
+ScriptSource ScriptLoader::invoiceScript(int id) const
 {
     PrintScript script;
     if (fetchPrintScript(id, &script))
-        return manager->loadFromSource(script.sourceCode, script.name + QLatin1String(".qs"));
+        return {script.name + QLatin1String(".qs"), script.sourceCode};
     const QStringList files = Registry::builtInPrintScriptFilenames();
     const int index = -(id + 1); // no overflow for the lowest id
-    return manager->load(files.at(id < 0 && index < files.size() ? index : 0));
+    return {files.at(id < 0 && index < files.size() ? index : 0), {}};
 }
 
-bool ScriptLoader::loadInvoiceListScript(PrintScriptManager *manager) const
-{
-    return manager->load(QStringLiteral(":/scripts/invoice-list.qs"));
-}
-
-bool ScriptLoader::loadPaymentListScript(PrintScriptManager *manager) const
-{
-    return manager->load(QStringLiteral(":/scripts/payment-list.qs"));
-}
-
-bool ScriptLoader::loadCustomerListScript(PrintScriptManager *manager) const
-{
-    return manager->load(QStringLiteral(":/scripts/customer-list.qs"));
-}
-
-bool ScriptLoader::loadProductListScript(PrintScriptManager *manager) const
-{
-    return manager->load(QStringLiteral(":/scripts/product-list.qs"));
-}
-
-bool ScriptLoader::loadFinvoiceScript(XmlScriptManager *manager) const
+ScriptSource ScriptLoader::finvoiceScript() const
 {
     const int index = m_registry->printScriptIndexByType(QStringLiteral("finvoice"));
     PrintScript script;
     if (index >= 0 && fetchPrintScript(m_registry->printScript(index)->id, &script))
-        return manager->loadFromSource(script.sourceCode, QStringLiteral("finvoice.qs"));
-    return manager->load(QStringLiteral(":/scripts/finvoice.qs"));
+        return {QStringLiteral("finvoice.qs"), script.sourceCode};
+    return ScriptSource::builtIn("finvoice");
 }
-
-bool ScriptLoader::load(PrintScriptManager *manager, const QString &fileName) const { return manager->load(fileName); }
 
 bool ScriptLoader::fetchPrintScript(int id, PrintScript *script) const
 {

@@ -3,37 +3,43 @@
 
 #include <QString>
 
+#include <optional>
+
 class PrintScript;
-class PrintScriptManager;
 class Registry;
-class XmlScriptManager;
+class ScriptHost;
+
+/** A script that was found and not run yet: even loading runs what stands outside of its functions. */
+struct ScriptSource {
+    QString fileName;            ///< of a resource, or what stands in error messages for a stored one
+    std::optional<QString> text; ///< of a stored one
+
+    /** One of the program's own, by its name in `:/scripts`. */
+    static ScriptSource builtIn(const char *name)
+    {
+        return {QStringLiteral(":/scripts/%1.qs").arg(QLatin1String(name)), {}};
+    }
+    /** Whether anybody may have written it, and so what takes the process down. */
+    bool isStored() const { return text.has_value(); }
+    /** @return false, with nothing loaded, when the file cannot be opened; errors of the script stay with the host */
+    [[nodiscard]] bool load(ScriptHost &host) const;
+};
 
 /**
  * Decides which script a host gets: one that is stored in the database, or a built-in one. A non-negative id names a
- * stored script, a negative one the built-in invoice script number -id - 1. Each load returns whether the file could be
- * opened; errors of the script itself stay with the host.
+ * stored script, a negative one the built-in invoice script number -id - 1.
  */
 class ScriptLoader {
 public:
     /** @param registry  not owned; its settings must have been fetched, for Finvoice its print scripts too */
     explicit ScriptLoader(Registry *registry) : m_registry(registry) {}
 
-    /** Loads the invoice script that the setting printScripts/invoice names by its id. */
-    [[nodiscard]] bool loadInvoiceScript(PrintScriptManager *manager) const;
-    /** An id that names no script loads the default layout. */
-    [[nodiscard]] bool loadInvoiceScript(PrintScriptManager *manager, int id) const;
-
-    /** Built-in ones, which no database replaces: resources under `:/scripts`. */
-    [[nodiscard]] bool loadInvoiceListScript(PrintScriptManager *manager) const;
-    [[nodiscard]] bool loadPaymentListScript(PrintScriptManager *manager) const;
-    [[nodiscard]] bool loadCustomerListScript(PrintScriptManager *manager) const;
-    [[nodiscard]] bool loadProductListScript(PrintScriptManager *manager) const;
-
-    /** Loads the first stored script of type "finvoice", else the built-in one. */
-    [[nodiscard]] bool loadFinvoiceScript(XmlScriptManager *manager) const;
-
-    /** Loads a file given by the user. */
-    [[nodiscard]] bool load(PrintScriptManager *manager, const QString &fileName) const;
+    /** The invoice script that the setting printScripts/invoice names by its id. */
+    ScriptSource invoiceScript() const;
+    /** An id that names no script is that of the default layout. */
+    ScriptSource invoiceScript(int id) const;
+    /** The first stored script of type "finvoice", else the built-in one. */
+    ScriptSource finvoiceScript() const;
 
     /** @return whether the id names a stored script; the record is unchanged when it does not */
     [[nodiscard]] bool fetchPrintScript(int id, PrintScript *script) const; ///< not owned; filled with the source

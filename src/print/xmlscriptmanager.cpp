@@ -8,16 +8,10 @@
 #include "xmlscriptmodel.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QXmlStreamWriter>
 
-XmlScriptManager::XmlScriptManager(QObject *parent) : QObject(parent), m_script(xmlPrelude, "write") {}
-
-bool XmlScriptManager::load(const QString &fileName) { return m_script.load(fileName); }
-
-bool XmlScriptManager::loadFromSource(const QString &source, const QString &fileName)
-{
-    return m_script.loadFromSource(source, fileName);
-}
+XmlScriptManager::XmlScriptManager(QObject *parent) : ScriptHost(xmlPrelude, "write", parent) {}
 
 /** Runs the script. The document is written as text first: only so can its characters be encoded one by one. */
 QByteArray XmlScriptManager::document(XmlScriptModel *model)
@@ -28,6 +22,8 @@ QByteArray XmlScriptManager::document(XmlScriptModel *model)
     XmlScriptEnvironment environment(m_script.engine(), &writer, model);
     m_script.run(&environment);
     writer.writeEndDocument();
+    static const QRegularExpression element(QStringLiteral("<[A-Za-z]"));
+    m_hasElement = element.match(text).hasMatch();
     return XmlEncoding::declaration + XmlEncoding::encode(text);
 }
 

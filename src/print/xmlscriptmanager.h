@@ -1,9 +1,7 @@
 #ifndef XMLSCRIPTMANAGER_H
 #define XMLSCRIPTMANAGER_H
 
-#include "scriptrunner.h"
-
-#include <QObject>
+#include "scripthost.h"
 
 class QIODevice;
 class XmlScriptModel;
@@ -12,28 +10,11 @@ class XmlScriptModel;
  * Writes XML documents (Finvoice) by a script that defines a global function `write()`, in the character set
  * ISO-8859-15, on demand each behind the transmission frame of the banks: a SOAP 1.1 envelope with an ebXML 2.0 message
  * header.
- *
- * Errors of the script do not show in the results of load() and write(): ask hasException() after either. The exception
- * is that of the last load or write.
  */
-class XmlScriptManager : public QObject {
+class XmlScriptManager : public ScriptHost {
     Q_OBJECT
 public:
     explicit XmlScriptManager(QObject *parent = nullptr); ///< nothing is loaded yet
-
-    /** Loads a UTF-8 file or resource. @return false, with nothing loaded, when it cannot be opened */
-    [[nodiscard]] bool load(const QString &fileName);
-    /** @return true always; fileName stands in error messages and back traces */
-    bool loadFromSource(const QString &source, const QString &fileName);
-
-    /** Whether the loaded script has the function that makes a document. */
-    bool isRunnable() const { return m_script.isRunnable(); }
-
-    /** See ScriptRunner; told for the last load or write only. */
-    bool hasException() const { return m_script.hasException(); }
-    QString exception() const { return m_script.exception(); }
-    int exceptionLineNumber() const { return m_script.exceptionLineNumber(); }
-    QStringList backTrace() const { return m_script.backTrace(); }
 
     /** Whether each document stands behind a frame, see SoapEnvelope; off unless set. */
     bool soapEnvEnabled() const { return m_soapEnvEnabled; }
@@ -45,14 +26,11 @@ public:
      * @param append  adds to the file instead of replacing it
      */
     void write(const QString &fileName, bool append, XmlScriptModel *model);
-    /** Why the last write() left no document in the file; empty when it did. */
-    QString lastError() const { return m_lastError; }
+    /** Whether the last write() got to an element: a script may refuse an invoice before its first. */
+    bool hasElement() const { return m_hasElement; }
 
     /** Writes the frame that stands in front of a document, and a line feed. @return whether the device took it */
     static bool writeSoapEnv(QIODevice *file, XmlScriptModel *model);
-
-signals:
-    void exceptionUncaught(); ///< after a write whose script threw
 
 private:
     QByteArray document(XmlScriptModel *model); ///< runs the script; encoded, with its XML declaration
@@ -62,9 +40,8 @@ private:
     void replaceFile(const QString &fileName, XmlScriptModel *model);
     void appendToFile(const QString &fileName, XmlScriptModel *model);
 
-    ScriptRunner m_script;         ///< entry point `write`
     bool m_soapEnvEnabled = false; ///< see setSoapEnvEnabled()
-    QString m_lastError;           ///< empty when the last write left its document
+    bool m_hasElement = false;
 };
 
 #endif

@@ -9,6 +9,7 @@
 #include "pdfprinter.h"
 #include "printscript.h"
 #include "printscriptmanager.h"
+#include "scripteddocuments.h"
 #include "scriptloader.h"
 #include "settings.h"
 #include "soapenvelope.h"
@@ -19,7 +20,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <limits>
 
@@ -30,147 +30,135 @@ using ExportInvoices::Request;
 
 constexpr int allPages = std::numeric_limits<int>::max();
 
-/** Loads the script by its name: a built-in one, or a stored one for invoices. @return false with the failure told */
-bool loadNamedScript(UseCaseContext &context, const QString &name, PrintScriptManager &manager, bool &loaded)
+/** The layout that was asked for by its name, else the one of the settings. @return false with the failure told */
+bool findInvoiceScript(UseCaseContext &context, const std::optional<QString> &name, ScriptSource &source)
 {
+    if (!context.session.fetch(CachedList::printScripts))
+        return false;
     Registry &registry = context.session.registry();
     const ScriptLoader loader(&registry);
-    const int builtIn = Registry::builtInPrintScriptNames().indexOf(name);
+    if (!name) {
+        source = loader.invoiceScript();
+        return true;
+    }
+    const int builtIn = Registry::builtInPrintScriptNames().indexOf(*name);
     if (builtIn >= 0) {
-        loaded = loader.loadInvoiceScript(&manager, Registry::builtInPrintScriptIds().at(builtIn));
+        source = loader.invoiceScript(Registry::builtInPrintScriptIds().at(builtIn));
         return true;
     }
     for (int i = 0; i < registry.printScriptCount(); ++i) {
         const PrintScript *stored = registry.printScript(i);
-        if (stored->type == QLatin1String("invoice") && stored->name == name) {
-            loaded = loader.loadInvoiceScript(&manager, stored->id);
+        if (stored->type == QLatin1String("invoice") && stored->name == *name) {
+            source = loader.invoiceScript(stored->id);
             return true;
         }
     }
-    return context.listener.fail(Failure::layoutUnknown, {name});
+    return context.listener.fail(Failure::layoutUnknown, {*name});
 }
 
-bool loadInvoiceScript(UseCaseContext &context, const std::optional<QString> &name, PrintScriptManager &manager)
-{
-    if (!context.session.fetch(CachedList::printScripts))
-        return false;
-    bool loaded = false;
-    if (!name)
-        loaded = ScriptLoader(&context.session.registry()).loadInvoiceScript(&manager);
-    else if (!loadNamedScript(context, *name, manager, loaded))
-        return false;
-    return ExportTools::checkLoaded(context, manager, loaded);
-}
-
-/**
- * A file name that nobody has: the empty file of the name is made at once, so that two exports to one name do not
- * overwrite each other. Empty files go again.
- */
-class ReservedName {
+/** The invoices of one export, each for a file of its own. */
+class Documents {
 public:
-    ReservedName(const QString &form, const Invoice &invoice, const Customer *customer, int kind)
+    Documents(UseCaseContext &context, const Request &request, const QString &form, InvoicePrintModel &all)
+        : m_context(context), m_request(request), m_form(form), m_all(all)
     {
-        do {
-            m_name = ExportFileName::make(form, invoice, customer, kind);
-            QFile file(m_name);
-            m_isMade = file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
-        } while (!m_isMade && QFile::exists(m_name) && --m_triesLeft > 0);
     }
-    ~ReservedName()
-    {
-        if (m_isMade && QFileInfo(m_name).size() == 0)
-            QFile::remove(m_name);
-    }
-    ReservedName(const ReservedName &) = delete;
-    ReservedName &operator=(const ReservedName &) = delete;
 
-    const QString &name() const { return m_name; }
+    /** One that nobody has at the moment. */
+    QString name(int i) const
+    {
+        const Invoice &invoice = *m_all.invoice(i);
+        return ExportFileName::make(m_form, invoice, m_all.customer(invoice), m_request.printType);
+    }
+    ReservedName reserve(int i) const
+    {
+        if (m_request.makesFolders)
+            QDir().mkpath(QFileInfo(name(i)).path());
+        return ReservedName([this, i] { return name(i); });
+    }
+    File file(int i, const QString &fileName, const QStringList &exception = {}) const
+    {
+        return {fileName, m_all.invoice(i)->id, m_all.invoice(i)->number, exception, {}};
+    }
+    void tellProgress(int i) const
+    {
+        if (m_request.progress)
+            m_request.progress(i + 1, m_all.invoiceCount());
+    }
+    /** Lets the model have one of the invoices. */
+    void single(int i, InvoicePrintModel &model) const
+    {
+        model.setPrintType(m_request.printType);
+        model.clear();
+        model.copyInvoice(&m_all, i);
+    }
+
+    /**
+     * Makes them all by a script. The answer is given afterwards: a file that cannot be written fails the command, and
+     * there is no saying so once an answer has begun.
+     */
+    bool make(ScriptedDocuments &scripted, QVector<File> &files) const
+    {
+        if (!m_request.isTrial)
+            return make(scripted, 0, m_all.invoiceCount(), files);
+        for (int i = 0; i < m_all.invoiceCount(); ++i)
+            files.append(file(i, name(i)));
+        return true;
+    }
+    bool make(ScriptedDocuments &scripted, int from, int to, QVector<File> &files) const
+    {
+        return scripted.make(from, to, [&](int i, const QString &fileName, const QStringList &exception) {
+            files.append(file(i, fileName, exception));
+            tellProgress(i);
+        });
+    }
 
 private:
-    QString m_name;
-    bool m_isMade = false;
-    int m_triesLeft = 1000;
+    UseCaseContext &m_context;
+    const Request &m_request;
+    const QString m_form;
+    InvoicePrintModel &m_all;
 };
 
-/**
- * Writes each invoice into a file of its own. The answer is given afterwards: a file that cannot be written fails the
- * command, and there is no saying so once an answer has begun.
- * @param write  writes the model's one invoice to a file through the host
- */
-template <class Model, class Host, class Write>
-bool writeInvoices(UseCaseContext &context, const Request &request, const QString &form, InvoicePrintModel &all,
-                   Host &host, Write write, QVector<File> &files)
+bool printInvoices(UseCaseContext &context, const Request &request, const Documents &documents, QVector<File> &files)
 {
-    Model single(&context.session.registry());
-    single.setPrintType(request.printType);
-    for (int i = 0; i < all.invoiceCount(); ++i) {
-        const Invoice &invoice = *all.invoice(i);
-        const Customer *customer = all.customer(invoice);
-        if (request.isTrial || request.makesFolders) {
-            const QString name = ExportFileName::make(form, invoice, customer, request.printType);
-            if (request.isTrial) {
-                files.append({name, invoice.id, invoice.number, {}, {}});
-                continue;
-            }
-            QDir().mkpath(QFileInfo(name).path());
-        }
-        const ReservedName reserved(form, invoice, customer, request.printType);
-        const QString &name = reserved.name();
-        single.clear();
-        single.copyInvoice(&all, i);
-        write(name, single);
-        if (!host.lastError().isEmpty())
-            return ExportTools::failWriting(context, name, host.lastError());
-        files.append(
-            {name, invoice.id, invoice.number, host.hasException() ? ExportTools::exception(host) : QStringList(), {}});
-        if (request.progress)
-            request.progress(i + 1, all.invoiceCount());
-    }
-    return true;
-}
-
-bool printInvoices(UseCaseContext &context, const Request &request, const QString &form, InvoicePrintModel &all,
-                   QVector<File> &files)
-{
-    PrintScriptManager manager;
-    if (!loadInvoiceScript(context, request.script, manager))
+    ScriptSource source;
+    if (!findInvoiceScript(context, request.script, source))
         return false;
-    const std::unique_ptr<QPrinter> printer = PdfPrinter::create();
-    const auto print = [&](const QString &name, InvoicePrintModel &model) {
+    InvoicePrintModel single(&context.session.registry());
+    std::unique_ptr<QPrinter> printer;
+    ScriptedDocuments::Work work;
+    work.makeHost = [] { return std::make_unique<PrintScriptManager>(); };
+    work.reserve = [&](int i) { return documents.reserve(i); };
+    work.write = [&](ScriptHost &host, const QString &name, int i) {
+        if (!printer)
+            printer = PdfPrinter::create();
+        documents.single(i, single);
         printer->setOutputFileName(name);
-        manager.print(printer.get(), &model, 0, allPages, false);
+        static_cast<PrintScriptManager &>(host).print(printer.get(), &single, 0, allPages, false);
     };
-    return writeInvoices<InvoicePrintModel>(context, request, form, all, manager, print, files);
+    ScriptedDocuments scripted(context, source, work);
+    return documents.make(scripted, files);
 }
 
-/** A script that refuses an invoice before its first element leaves a document that is none. */
-void removeEmptyDocument(const QString &name)
+/** Documents of Finvoice 1.3. @param single  for one invoice at a time; outlives the result */
+ScriptedDocuments finvoices(UseCaseContext &context, bool writeSoap, const Documents &documents, XmlScriptModel &single)
 {
-    QFile file(name);
-    static const QRegularExpression element(QStringLiteral("<[A-Za-z]"));
-    const bool isEmpty =
-        file.open(QIODevice::ReadOnly) && !element.match(QString::fromLatin1(file.readAll())).hasMatch();
-    file.close();
-    if (isEmpty)
-        file.remove();
-}
-
-bool writeFinvoices(UseCaseContext &context, const Request &request, const QString &form, InvoicePrintModel &all,
-                    QVector<File> &files)
-{
-    if (!context.session.fetch(CachedList::printScripts))
-        return false;
-    XmlScriptManager manager;
-    manager.setSoapEnvEnabled(request.writeSoap);
-    const bool loaded = ScriptLoader(&context.session.registry()).loadFinvoiceScript(&manager);
-    if (!ExportTools::checkLoaded(context, manager, loaded))
-        return false;
-    const auto write = [&](const QString &name, XmlScriptModel &model) {
-        manager.write(name, false, &model);
-        if (manager.hasException())
-            removeEmptyDocument(name);
+    ScriptedDocuments::Work work;
+    work.makeHost = [writeSoap] {
+        auto host = std::make_unique<XmlScriptManager>();
+        host->setSoapEnvEnabled(writeSoap);
+        return host;
     };
-    return writeInvoices<XmlScriptModel>(context, request, form, all, manager, write, files);
+    work.reserve = [&documents](int i) { return documents.reserve(i); };
+    work.write = [&documents, &single](ScriptHost &host, const QString &name, int i) {
+        auto &manager = static_cast<XmlScriptManager &>(host);
+        documents.single(i, single);
+        manager.write(name, false, &single);
+        if (manager.hasException() && !manager.hasElement())
+            QFile::remove(name); // refused before its first element
+    };
+    return ScriptedDocuments(context, ScriptLoader(&context.session.registry()).finvoiceScript(), work);
 }
 
 constexpr struct {
@@ -203,67 +191,55 @@ EInvoice::Document documentOf(const InvoicePrintModel &model, const Invoice &inv
                             model.visibleBankAccounts(), kind});
 }
 
-bool writeEInvoices(UseCaseContext &context, const Request &request, PrintFormat format, InvoicePrintModel &all,
-                    QVector<File> &files)
+/** Writes one that its own writer makes. */
+bool writeEInvoice(UseCaseContext &context, PrintFormat format, bool writeSoap, const EInvoice::Document &document,
+                   InvoicePrintModel &single, const QString &name)
+{
+    OutputFile output(name);
+    QByteArray bytes = format == peppolFormat ? EInvoice::writeUbl(document) : EInvoice::writeFinvoice3(document);
+    if (format == finvoice3Format && writeSoap)
+        bytes.prepend(SoapEnvelope::create(&single));
+    return (output.open() && output.device()->write(bytes) == bytes.size() && output.commit()) ||
+           ExportTools::failWriting(context, name, output.errorString());
+}
+
+bool writeEInvoices(UseCaseContext &context, const Request &request, PrintFormat format, const Documents &documents,
+                    InvoicePrintModel &all, QVector<File> &files)
 {
     XmlScriptModel single(&context.session.registry()); // for the envelope, and for Finvoice 1.3
-    std::unique_ptr<XmlScriptManager> script;
+    std::optional<ScriptedDocuments> scripted;
     for (int i = 0; i < all.invoiceCount(); ++i) {
         const Invoice &invoice = *all.invoice(i);
         const Customer *customer = all.customer(invoice);
         const PrintFormat own =
             format == einvoiceFormat ? formatOf(*all.settings(), customer ? *customer : Customer()) : format;
-        const EInvoice::Document document = documentOf(all, invoice, request.printType);
-        File file;
-        file.invoiceId = invoice.id;
-        file.invoiceNumber = invoice.number;
-        if (own == finvoiceFormat && !script) {
-            script = std::make_unique<XmlScriptManager>();
-            script->setSoapEnvEnabled(request.writeSoap);
-            if (!context.session.fetch(CachedList::printScripts) ||
-                !ExportTools::checkLoaded(context, *script,
-                                          ScriptLoader(&context.session.registry()).loadFinvoiceScript(script.get())))
+        if (own == finvoiceFormat && !request.isTrial) {
+            if (!scripted && !context.session.fetch(CachedList::printScripts))
                 return false;
+            if (!scripted)
+                scripted.emplace(finvoices(context, request.writeSoap, documents, single));
+            if (!documents.make(*scripted, i, i + 1, files))
+                return false;
+            continue;
         }
+        File file = documents.file(i, QString());
+        const EInvoice::Document document = documentOf(all, invoice, request.printType);
         if (own != finvoiceFormat)
             file.findings = EInvoice::check(document, own == peppolFormat ? EInvoice::peppol : EInvoice::finvoice3);
         if (EInvoice::hasError(file.findings)) {
             files.append(file);
             continue;
         }
-        const QString form = request.fileName.isEmpty() ? QStringLiteral("lasku-$i.xml") : request.fileName;
-        file.fileName = ExportFileName::make(form, invoice, customer, request.printType);
+        file.fileName = documents.name(i);
         if (!request.isTrial) {
-            if (request.makesFolders)
-                QDir().mkpath(QFileInfo(file.fileName).path());
-            const ReservedName reserved(form, invoice, customer, request.printType);
+            const ReservedName reserved = documents.reserve(i);
             file.fileName = reserved.name();
-            if (own == finvoiceFormat) {
-                single.clear();
-                single.copyInvoice(&all, i);
-                script->write(file.fileName, false, &single);
-                if (!script->lastError().isEmpty())
-                    return ExportTools::failWriting(context, file.fileName, script->lastError());
-                if (script->hasException()) {
-                    removeEmptyDocument(file.fileName);
-                    file.exception = ExportTools::exception(*script);
-                }
-                files.append(file);
-                continue;
-            }
-            OutputFile output(file.fileName);
-            QByteArray bytes = own == peppolFormat ? EInvoice::writeUbl(document) : EInvoice::writeFinvoice3(document);
-            if (own == finvoice3Format && request.writeSoap) {
-                single.clear();
-                single.copyInvoice(&all, i);
-                bytes.prepend(SoapEnvelope::create(&single));
-            }
-            if (!output.open() || output.device()->write(bytes) != bytes.size() || !output.commit())
-                return ExportTools::failWriting(context, file.fileName, output.errorString());
+            documents.single(i, single);
+            if (!writeEInvoice(context, own, request.writeSoap, document, single, file.fileName))
+                return false;
         }
         files.append(file);
-        if (request.progress)
-            request.progress(i + 1, all.invoiceCount());
+        documents.tellProgress(i);
     }
     return true;
 }
@@ -333,16 +309,16 @@ bool ExportInvoices::run(UseCaseContext &context, const Request &request, QVecto
     const auto form = [&request](const char *usual) {
         return request.fileName.isEmpty() ? QString::fromLatin1(usual) : request.fileName;
     };
-    switch (format) {
-    case csvFormat:
+    if (format == csvFormat)
         return writeCsv(context, request, form("laskut.csv"), model, files);
-    case finvoiceFormat:
-        return writeFinvoices(context, request, form("lasku-$i.xml"), model, files);
-    case finvoice3Format:
-    case peppolFormat:
-    case einvoiceFormat:
-        return writeEInvoices(context, request, format, model, files);
-    default:
-        return printInvoices(context, request, form("lasku-$i.pdf"), model, files);
-    }
+    const Documents documents(context, request, form(format == pdfFormat ? "lasku-$i.pdf" : "lasku-$i.xml"), model);
+    if (format == pdfFormat)
+        return printInvoices(context, request, documents, files);
+    if (format != finvoiceFormat)
+        return writeEInvoices(context, request, format, documents, model, files);
+    if (!context.session.fetch(CachedList::printScripts))
+        return false;
+    XmlScriptModel single(&context.session.registry());
+    ScriptedDocuments scripted = finvoices(context, request.writeSoap, documents, single);
+    return documents.make(scripted, files);
 }

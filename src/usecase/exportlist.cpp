@@ -25,7 +25,7 @@ constexpr int listTimeLimitMs = 30 * ScriptRunner::timeLimitMs;
 struct ListRow {
     const char *baseName;
     const char *columns; ///< comma-separated
-    bool (ScriptLoader::*loadScript)(PrintScriptManager *) const;
+    const char *script;
     /** Fetches what the list needs; null, with the failure told, when that fails. */
     std::unique_ptr<PrintModel> (*makeModel)(UseCaseContext &, const Request &);
 };
@@ -87,14 +87,13 @@ constexpr ListRow lists[] = {
     {"laskuluettelo",
      "number,date,dueDate,deliveryDate,customerNumber,customerName,totalAmountVatExcluded,totalVatAmount,"
      "totalAmountVatIncluded,balance",
-     &ScriptLoader::loadInvoiceListScript, invoiceList},
-    {"asiakasluettelo", "number,name,streetName,postCode,townName,country,contact",
-     &ScriptLoader::loadCustomerListScript, customerList},
-    {"tuoteluettelo", "number,name,unitCode,amount,category", &ScriptLoader::loadProductListScript, productList},
+     "invoice-list", invoiceList},
+    {"asiakasluettelo", "number,name,streetName,postCode,townName,country,contact", "customer-list", customerList},
+    {"tuoteluettelo", "number,name,unitCode,amount,category", "product-list", productList},
     {"suorituspaivakirja",
      "number,date,dueDate,deliveryDate,customerNumber,customerName,totalAmountVatIncluded,paymentAmount,paymentDate,"
      "bankAccount",
-     &ScriptLoader::loadPaymentListScript, paymentList},
+     "payment-list", paymentList},
 };
 
 bool printList(UseCaseContext &context, const ListRow &list, const Request &request, const QString &fileName,
@@ -102,8 +101,7 @@ bool printList(UseCaseContext &context, const ListRow &list, const Request &requ
 {
     PrintScriptManager manager;
     manager.script().setTimeLimit(listTimeLimitMs);
-    const ScriptLoader loader(&context.session.registry());
-    if (!ExportTools::checkLoaded(context, manager, (loader.*list.loadScript)(&manager)))
+    if (!ExportTools::checkLoaded(context, manager, ScriptSource::builtIn(list.script).load(manager)))
         return false;
     manager.setOrientation(request.landscape ? QPrinter::Landscape : QPrinter::Portrait);
     const std::unique_ptr<QPrinter> printer = PdfPrinter::create(fileName);

@@ -4,26 +4,27 @@
 #include "printformat.h"
 #include "usecasecontext.h"
 
+#include <optional>
+
 class PrintModel;
+class ScriptHost;
 
 /** What the exports of invoices and of lists share. */
 namespace ExportTools {
 
 /** The arguments of Failure::scriptException. */
-template <class Host> QStringList exception(const Host &host)
-{
-    return {host.exception(), QString::number(host.exceptionLineNumber())};
-}
+QStringList exception(const ScriptHost &host);
 
-/** Checks what a load left in the host. @param loaded  whether the script could be read */
-template <class Host> bool checkLoaded(UseCaseContext &context, const Host &host, bool loaded)
-{
-    if (!loaded)
-        return context.listener.fail(Failure::scriptUnreadable);
-    if (host.hasException())
-        return context.listener.fail(Failure::scriptException, exception(host));
-    return host.isRunnable() || context.listener.fail(Failure::scriptWithoutFunction);
-}
+/** Why no document can be made. */
+struct LoadFailure {
+    Failure::Code code;
+    QStringList arguments;
+};
+
+/** Looks at what a load left in the host. @param isLoaded  whether the script could be read */
+std::optional<LoadFailure> loadFailure(const ScriptHost &host, bool isLoaded);
+/** The same, told. @return whether documents can be made */
+bool checkLoaded(UseCaseContext &context, const ScriptHost &host, bool isLoaded);
 
 /** Gathers the model's data, all of one moment. */
 [[nodiscard]] bool runModel(UseCaseContext &context, PrintModel &model);

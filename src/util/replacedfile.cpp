@@ -1,5 +1,6 @@
 #include "replacedfile.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
@@ -7,17 +8,31 @@
 #include <cerrno>
 #include <cstdio>
 
+namespace {
+
+QString randomText() { return QString::number(QRandomGenerator::system()->generate64(), 36); }
+
+/** How temporary names of this process, and of its children, begin. */
+const QString &prefix()
+{
+    static const QString text = QStringLiteral(".billora-%1-").arg(randomText());
+    return text;
+}
+
+/** The file behind a symbolic link. */
+QString target(const QFileInfo &file) { return file.exists() ? file.canonicalFilePath() : file.filePath(); }
+
+} // namespace
+
 ReplacedFile::ReplacedFile(const QString &fileName) : m_fileName(fileName)
 {
     const QFileInfo file(fileName);
     if (fileName.isEmpty() || (file.exists() && !file.isFile()))
         return;
-    m_target = file.exists() ? file.canonicalFilePath() : fileName;
+    m_target = target(file);
     // A name of its own length: the file's may be as long as the file system takes.
     // Nobody can guess it and put a link there.
-    m_temporary =
-        QStringLiteral("%1/.billora-%2.tmp")
-            .arg(QFileInfo(m_target).absolutePath(), QString::number(QRandomGenerator::system()->generate64(), 36));
+    m_temporary = QStringLiteral("%1/%2%3.tmp").arg(QFileInfo(m_target).absolutePath(), prefix(), randomText());
 }
 
 ReplacedFile::~ReplacedFile()
@@ -45,4 +60,11 @@ bool ReplacedFile::putInPlace()
     if (QFile::exists(m_target))
         QFile::setPermissions(m_temporary, QFile::permissions(m_target));
     return std::rename(QFile::encodeName(m_temporary), QFile::encodeName(m_target)) == 0 || fail(errno);
+}
+
+void ReplacedFile::removeLeftOvers(const QString &fileName)
+{
+    QDir folder(QFileInfo(target(QFileInfo(fileName))).absolutePath());
+    for (const QString &name : folder.entryList({prefix() + QLatin1Char('*')}, QDir::Files | QDir::Hidden))
+        folder.remove(name);
 }

@@ -25,6 +25,13 @@ public:
     [[nodiscard]] bool putInPlace();
     QString errorString() const { return m_errorString; } ///< the system's own text; null until a failure
 
+    /**
+     * Removes what a child of this process, made by a fork and dead since, left beside a file. Nothing of this process
+     * may be under way there. To be told apart from other programs' files, the first file must have been made, or
+     * this called, before the fork.
+     */
+    static void removeLeftOvers(const QString &fileName);
+
 private:
     bool fail(int error); ///< keeps the text of an errno. @return false
 

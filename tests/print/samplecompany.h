@@ -115,7 +115,7 @@ inline QString Company::open()
     if (!m_registry.fetchSettings(m_query.get()) || !m_registry.fetchBankAccounts(m_query.get()))
         return m_query->lastError();
     fillSeller(*m_registry.settings());
-    if (!ScriptLoader(&m_registry).loadInvoiceScript(&m_manager))
+    if (!ScriptLoader(&m_registry).invoiceScript().load(m_manager))
         return QStringLiteral("no built-in script");
     return m_manager.hasException() ? m_manager.exception() : QString();
 }

@@ -121,7 +121,7 @@ void FinvoiceTest::initTestCase()
     m_registry.setDatabase(&m_database);
     m_registry.setConnected(true);
     QVERIFY(m_registry.fetchPrintScripts(m_query.get()));
-    QVERIFY(ScriptLoader(&m_registry).loadFinvoiceScript(&m_manager));
+    QVERIFY(ScriptLoader(&m_registry).finvoiceScript().load(m_manager));
     QVERIFY2(!m_manager.hasException(), qPrintable(m_manager.exception()));
 
     const QString beside = QStringLiteral("/../../../shared/formats/schema/Finvoice1.3.xsd");

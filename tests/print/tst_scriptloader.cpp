@@ -13,7 +13,6 @@ private slots:
     void finvoiceScripts();
     void listScripts();
     void fetched();
-    void ownFile();
 
 private:
     int addScript(const QString &type, const QString &name)
@@ -51,7 +50,7 @@ void ScriptLoaderTest::invoiceScripts()
     if (setting.isValid())
         m_data.settings().setProperty("printScripts/invoice", setting.toString().replace("%1", QString::number(id)));
     PrintScriptManager manager;
-    QVERIFY(ScriptLoader(m_data.registry()).loadInvoiceScript(&manager));
+    QVERIFY(ScriptLoader(m_data.registry()).invoiceScript().load(manager));
     QTEST(manager.hasException(), "isStored");
     QVERIFY(manager.script().isRunnable());
     if (manager.hasException()) {
@@ -67,23 +66,21 @@ void ScriptLoaderTest::finvoiceScripts()
     XmlScriptManager manager;
     addScript("invoice", "lasku");
     m_data.fetch();
-    QVERIFY(loader.loadFinvoiceScript(&manager)); // the built-in one
+    QVERIFY(loader.finvoiceScript().load(manager)); // the built-in one
     QVERIFY2(!manager.hasException(), qPrintable(manager.exception()));
     addScript("finvoice", "b");
     addScript("finvoice", "a");
     m_data.fetch();
-    QVERIFY(loader.loadFinvoiceScript(&manager));
+    QVERIFY(loader.finvoiceScript().load(manager));
     QCOMPARE(manager.exception(), QString("a")); // the first by name
     QVERIFY(manager.backTrace().first().contains("finvoice.qs"));
 }
 
 void ScriptLoaderTest::listScripts()
 {
-    const ScriptLoader loader(m_data.registry());
     PrintScriptManager manager;
-    for (auto load : {&ScriptLoader::loadInvoiceListScript, &ScriptLoader::loadPaymentListScript,
-                      &ScriptLoader::loadCustomerListScript, &ScriptLoader::loadProductListScript}) {
-        QVERIFY((loader.*load)(&manager));
+    for (const char *name : {"invoice-list", "payment-list", "customer-list", "product-list"}) {
+        QVERIFY(ScriptSource::builtIn(name).load(manager));
         QVERIFY2(!manager.hasException(), qPrintable(manager.exception()));
         QVERIFY(manager.script().isRunnable());
         QCOMPARE(manager.supportedOrientations(), 3);
@@ -101,14 +98,6 @@ void ScriptLoaderTest::fetched()
     QVERIFY(loader.fetchPrintScript(id, &script));
     QCOMPARE(script.name, QString("oma"));
     QVERIFY(script.sourceCode.contains("throw 'oma'"));
-}
-
-void ScriptLoaderTest::ownFile()
-{
-    PrintScriptManager manager;
-    const ScriptLoader loader(m_data.registry());
-    QVERIFY(!loader.load(&manager, m_data.filePath("nosuch.qs")));
-    QVERIFY(!manager.script().isRunnable());
 }
 
 QTEST_MAIN(ScriptLoaderTest)
