@@ -7,7 +7,7 @@
 class PostgreSQLDatabase : public Database {
     Q_OBJECT
 public:
-    explicit PostgreSQLDatabase(QObject *parent = nullptr);
+    explicit PostgreSQLDatabase(QObject *parent = nullptr); ///< connects nothing
 
     /**
      * Reads the keys "host", "port", "databaseName", "username", "password" and, for a new database, "name" (the
@@ -21,6 +21,7 @@ public:
     bool isLockError(const QString &reason) const override;
 
 protected:
+    /** See Database. */
     bool isSQLite() const override { return false; }
     QString creationScript() const override { return QStringLiteral(":/sql/postgresql.sql"); }
 
@@ -28,9 +29,10 @@ private:
     /** Outcomes of upgrade() that are not a schema version. */
     enum { noTables = -2, upgradeFailed = -1, noSettingsRow = 0 };
 
+    /** Takes lower-case names of letters, digits and underscores alone: they stand unquoted in the statement. */
     bool createDatabase(QSqlDatabase &database, const QString &name);
-    int upgrade();
-    int upgradeFrom(int version);
+    int upgrade();                ///< @return the schema version that is reached, or one of the outcomes above
+    int upgradeFrom(int version); ///< the caller holds the lock of all writers. @return as upgrade()
 };
 
 #endif

@@ -30,10 +30,14 @@ class Settings;
 class Query : public QObject {
     Q_OBJECT
 public:
+    /**
+     * @param statement  forward-only, of an open connection
+     * @param parent     owns this; null leaves it to the caller
+     */
     Query(const QSqlQuery &statement, QObject *parent);
 
-    QString lastError() const;
-    bool next() { return m_query.next(); }
+    QString lastError() const;             ///< of the last operation; empty when it went well
+    bool next() { return m_query.next(); } ///< false at the end, and on a failure, see hasReadError()
     /**
      * Steps through all rows of a fetch: the one loop over them.
      * @param take  called on each row
@@ -53,7 +57,7 @@ public:
         return !hasReadError();
     }
     bool last() { return m_query.last(); }
-    void finish() { m_query.finish(); }
+    void finish() { m_query.finish(); } ///< releases what a fetch that was not read to its end holds
     /** Whether next() ended the rows because of a failure, which lastError() tells, and not at their end. */
     bool hasReadError() const;
     /** Asks the database: a server may have gone. */
@@ -194,38 +198,45 @@ protected:
     /** Whether prepared statements are kept for the next time: most of a small statement's time is its preparation. */
     virtual bool keepsStatements() const { return true; }
 
-    QSqlQuery m_query;
+    QSqlQuery m_query; ///< the statement of the last operation
 
 private:
+    /** Each finishes the statement before. @return false with the reason in lastError() */
     bool execute(const QString &sql, const QVariantList &values = {});
-    bool prepare(const QString &sql);
+    bool prepare(const QString &sql); ///< takes a kept statement of the same text when there is one
+    /** 0 without a row or when the statement cannot be prepared, -1 when it fails. */
     int firstInteger(const QString &sql, const QVariantList &values = {});
+    /** Of the table of TableColumns<Record>; `order`, `condition` and `rest` are SQL. */
     template <class Record> bool fetchAll(const char *order);
     template <class Record> bool fetchWhere(const char *condition, int value, const char *rest = "");
-    template <class Record> bool insert(Record *record);
-    template <class Record> bool update(Record *record);
-    template <class Record> bool save(Record *record);
+    template <class Record> bool insert(Record *record); ///< sets the id
+    template <class Record> bool update(Record *record); ///< all columns; a row that is gone is no failure
+    template <class Record> bool save(Record *record);   ///< by the sign of the id
 
-    template <class Record> int newestId(const char *condition = "");
+    template <class Record> int newestId(const char *condition = ""); ///< 0 without records, -1 on failure
+    /** Pieces of the statement of an invoice list: the balance is the stored one, or that of the day asOf. */
     static QString invoiceListBalance(const InvoiceSelection &selection);
     static QString invoiceListOrder(const InvoiceSelection &selection);
+    /** Values are appended in the order of the marks in the text. */
     QString invoiceListIds(const InvoiceSelection &selection, QVariantList &params) const;
     QString invoiceListSource(const InvoiceSelection &selection, QVariantList &params) const;
 
-    bool fetchPaymentAmounts(const InvoiceCriteria *c);
+    bool fetchPaymentAmounts(const InvoiceCriteria *c); ///< fills m_paidAmounts; nothing without a balance date
+    /** @param totalColumn  place of the total in `select`, for nextInvoice(). */
     bool fetchInvoices(const QString &select, int totalColumn, const InvoiceCriteria *c);
+    /** A limit of 0 lets none through here; fetchInvoices() takes it as no limit. */
     void appendLimitedInvoices(const InvoiceCriteria *c, const QString &column, QString &sql, QList<QVariant> &params,
                                const QString &keyword) const;
     void appendInvoiceRestriction(const InvoiceCriteria *c, QString &sql, QList<QVariant> &params,
                                   bool hasConditions) const;
 
     QHash<QString, QSqlQuery> m_statements; ///< the kept ones by their text; m_query is one of them
-    bool m_prepareFailed = false;
-    QString m_refusal;                 ///< of a value of the last statement
-    InvoiceCriteria m_invoiceCriteria; ///< of the last invoice search
-    QHash<int, int> m_paidAmounts;     ///< invoice id: payments up to the balance date, cents
-    int m_totalColumn = -1;            ///< column of the total in the current invoice search
-    int m_invoiceBalanceMode = 0;
+    bool m_prepareFailed = false;           ///< of the last statement: it did not come to its execution
+    QString m_refusal;                      ///< of a value of the last statement
+    InvoiceCriteria m_invoiceCriteria;      ///< of the last invoice search
+    QHash<int, int> m_paidAmounts;          ///< invoice id: payments up to the balance date, cents
+    int m_totalColumn = -1;                 ///< column of the total in the current invoice search
+    int m_invoiceBalanceMode = 0;           ///< see setInvoiceBalanceMode()
 };
 
 #endif

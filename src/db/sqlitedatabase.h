@@ -10,7 +10,7 @@
 class SQLiteDatabase : public Database {
     Q_OBJECT
 public:
-    explicit SQLiteDatabase(QObject *parent = nullptr);
+    explicit SQLiteDatabase(QObject *parent = nullptr); ///< opens nothing
     ~SQLiteDatabase() override;
 
     /** Reads the keys "filename" and, for a new database, "name" (the seller's name). */
@@ -30,13 +30,16 @@ public:
     static QString appendSuffixToFilename(const QString &name);
 
 protected:
+    /** See Database. */
     bool isSQLite() const override { return true; }
     QString creationScript() const override { return QStringLiteral(":/sql/sqlite.sql"); }
 
 private:
+    /** Steps one version at a time, each behind a backup. Another program's upgrade is waited for up to a minute. */
     bool upgrade(const QString &filename);
+    /** 0 without a settings row; nothing, with lastError(), when it cannot be read. */
     std::optional<int> storedVersion();
-    void backup(const QString &filename) const;
+    void backup(const QString &filename) const; ///< a failure does not keep the database from opening
 
     std::unique_ptr<QSqlQuery> m_dataVersion; ///< prepared once, run before every use of a cached list
 };
