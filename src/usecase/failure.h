@@ -7,6 +7,7 @@
  */
 namespace Failure {
 
+/** The comments name the arguments, in order; without one there are none but in the second group, which has one. */
 enum Code {
     // The database
     database,               ///< the reason in the database's own words

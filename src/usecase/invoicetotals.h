@@ -6,8 +6,9 @@ struct UseCaseContext;
 /** An invoice's stored total and balance, recomputed from its rows and payments. */
 namespace InvoiceTotals {
 
+/** What became of a recomputation. */
 enum class Outcome {
-    updated,
+    updated,  ///< saved, with the balance, also when neither has changed
     failed,   ///< the statement failed or there is no such invoice: what was saved before stays saved
     tooLarge, ///< beyond 32 bits of cents: what was saved before must be taken back
 };
