@@ -11,12 +11,15 @@ class Customer : public PropertyMap {
 public:
     int id = -1;     ///< -1: not stored yet
     int number = -1; ///< shown to users; -1: not given
+    /** The name is all that a customer must have; streetName may have several lines. */
     QString name, streetName, postCode, townName, country, contact;
     QString vatNumber;       ///< business ID or VAT number
     QString referenceNumber; ///< the customer's own payment reference, used on every invoice when not empty
+    /** PaymentTerms go to new invoices when not empty, in the form of Invoice::paymentTerms. */
     QString emailAddress, phoneNumber, paymentTerms;
     bool deleted = false; ///< removed, but still referable from old invoices
 
+    /** All fields and properties, as of a new record; the copy is a whole one. */
     void clear() { *this = Customer(); }
     void copy(Customer *target) const { *target = *this; }
 

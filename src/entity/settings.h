@@ -11,9 +11,11 @@
  */
 class Settings : public PropertyMap {
 public:
+    /** As printed; sellerBusinessId is a Y-tunnus, `0737546-2`. */
     QString sellerName, sellerStreetName, sellerPostCode, sellerTownName, sellerCountry, sellerBusinessId;
     QByteArray sellerLogo; ///< an image file's bytes, empty for none
 
+    /** All fields and properties; the copy is a whole one. */
     void clear() { *this = Settings(); }
     void copy(Settings *target) const { *target = *this; }
 
