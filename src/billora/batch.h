@@ -12,7 +12,6 @@
 /** Runs the lines of standard input: each a command in JSON, each with an answer of one line. */
 class Batch {
 public:
-    /** How the lines are run. */
     struct Options {
         bool isEach = false; ///< a transaction for each line, and on after failures
         Manners manners;     ///< isInteractive has no effect: nobody is asked

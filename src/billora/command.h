@@ -34,7 +34,6 @@ struct OptionGroup {
     const Option *options = nullptr; ///< not owned: tables are constants
     int count = 0;                   ///< of rows; a group that is not used has none
 
-    /** For range loops. */
     const Option *begin() const { return options; }
     const Option *end() const { return options + count; }
 };
@@ -81,7 +80,6 @@ struct CommandGroup {
     const Command *commands; ///< not owned: tables are constants
     int count;               ///< of commands
 
-    /** For range loops. */
     const Command *begin() const { return commands; }
     const Command *end() const { return commands + count; }
 };

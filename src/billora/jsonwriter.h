@@ -16,7 +16,6 @@ public:
     void append(QByteArray &target, const void *record) const;
 
 private:
-    /** A field, ready to be written. */
     struct Member {
         QByteArray prefix;  ///< up to the value
         const Field *field; ///< not owned

@@ -12,28 +12,28 @@ struct Problem {
     /** Stable for programs, see problemCodes. */
     enum Code {
         none,
-        unknownCommand,
-        unknownOption,
-        missingOption,
-        missingSelection,
-        missingValue,
-        conflict,
-        unknownField,
-        noCompany,
-        database,
-        file,
-        internal,
-        badValue,
-        badJson,
-        notFound,
-        ambiguous,
-        rule,
-        exists,
-        keyReused,
-        changedMeanwhile,
-        needsConfirmation,
-        declined,
-        locked,
+        unknownCommand,    ///< no such noun, verb or plain word
+        unknownOption,     ///< an option that the command does not have
+        missingOption,     ///< a required word or option was not given
+        missingSelection,  ///< a command that works on several was told none of them
+        missingValue,      ///< an option stands at the end of the line, or empty where it must not be
+        conflict,          ///< two options exclude each other, or one is given twice
+        unknownField,      ///< no field of the record, JSON member or title has the name
+        noCompany,         ///< no database is listed, or the listed one is gone
+        database,          ///< the database's own failure, its words in the message
+        file,              ///< a file cannot be read or written
+        internal,          ///< a failure that has no sentence
+        badValue,          ///< a value of another form, or beyond its range
+        badJson,           ///< no JSON object, or one with a name twice
+        notFound,          ///< no record is what the word names
+        ambiguous,         ///< several records are what the word names
+        rule,              ///< what was asked for must not be: a total too large, a script in error
+        exists,            ///< the number, name or file is taken
+        keyReused,         ///< another request was made under the key
+        changedMeanwhile,  ///< somebody else changed the record while it was edited
+        needsConfirmation, ///< nobody can be asked, and --yes was not given
+        declined,          ///< the answer was no
+        locked,            ///< another program holds the database; worth another try
     };
 
     /** A word that would have fitted, and what it is for people (may be empty). */

@@ -64,30 +64,34 @@ public:
     bool isConnected();
 
     // Lists and single records
-    [[nodiscard]] bool fetchBankAccounts();
-    [[nodiscard]] bool fetchCustomers();
-    [[nodiscard]] bool fetchCustomer(int id);
-    [[nodiscard]] bool fetchCustomersByNumber(int number); ///< removed ones too, in the order of the list
-    [[nodiscard]] bool fetchProducts();
+    [[nodiscard]] bool fetchBankAccounts();                          ///< by their place, removed ones too
+    [[nodiscard]] bool fetchCustomers();                             ///< by number, removed ones too
+    [[nodiscard]] bool fetchCustomer(int id);                        ///< removed or not
+    [[nodiscard]] bool fetchCustomersByNumber(int number);           ///< removed ones too, in the order of the list
+    [[nodiscard]] bool fetchProducts();                              ///< by number
     [[nodiscard]] bool fetchProductsByNumber(const QString &number); ///< equal ones, in the order of their making
-    [[nodiscard]] bool fetchInvoiceDetails(int id);
-    [[nodiscard]] bool fetchInvoiceItems(int invoiceId);
+    [[nodiscard]] bool fetchInvoiceDetails(int id);                  ///< invoiceDetails() reads it
+    [[nodiscard]] bool fetchInvoiceItems(int invoiceId);             ///< by their place on the invoice
     [[nodiscard]] bool fetchInvoiceItem(int id);
-    [[nodiscard]] bool fetchPayments(int invoiceId);
+    [[nodiscard]] bool fetchPayments(int invoiceId); ///< by date, then account
     [[nodiscard]] bool fetchPayment(int id);
-    [[nodiscard]] bool fetchPrintScriptSummaries();
-    [[nodiscard]] bool fetchPrintScriptDetails();
+    [[nodiscard]] bool fetchPrintScriptSummaries(); ///< by type and name, for printScriptSummary(): no sources
+    [[nodiscard]] bool fetchPrintScriptDetails();   ///< by type and name, with sources
     [[nodiscard]] bool fetchPrintScriptDetails(int id);
-    [[nodiscard]] bool fetchSettings();
+    [[nodiscard]] bool fetchSettings(); ///< one row, or none in a database that was never filled
 
     // Searches; null criteria are not allowed except where said.
-    int fetchInvoiceCount(const InvoiceCriteria *c); ///< -1 on failure
-    [[nodiscard]] bool fetchInvoiceSummaries(const InvoiceCriteria *c);
-    [[nodiscard]] bool fetchInvoiceDetails(const InvoiceCriteria *c);
+    int fetchInvoiceCount(const InvoiceCriteria *c);                    ///< -1 on failure
+    [[nodiscard]] bool fetchInvoiceSummaries(const InvoiceCriteria *c); ///< by number; read with invoiceSummary()
+    [[nodiscard]] bool fetchInvoiceDetails(const InvoiceCriteria *c);   ///< by number; read with invoiceDetails()
+    /** By invoice number and place; a limit counts invoices. */
     [[nodiscard]] bool fetchInvoiceItems(const InvoiceCriteria *c);
-    [[nodiscard]] bool fetchPayments(const PaymentCriteria *p);
+    [[nodiscard]] bool fetchPayments(const PaymentCriteria *p); ///< by date, then account
+    /** By invoice number, date and account. */
     [[nodiscard]] bool fetchPayments(const PaymentCriteria *p, const InvoiceCriteria *c);
+    /** By date, then invoice number; read with invoiceAndPayment(). */
     [[nodiscard]] bool fetchInvoicesAndPayments(const PaymentCriteria *p);
+    /** The same; payments after the balance date are left out. */
     [[nodiscard]] bool fetchInvoicesAndPayments(const InvoiceCriteria *c, const PaymentCriteria *p);
     /** Steps to the next invoice that meets the payment state at the criteria's balance date. */
     bool nextInvoice();
@@ -96,12 +100,14 @@ public:
     void bankAccount(BankAccount *record) const;
     void customer(Customer *record) const;
     void product(Product *record) const;
-    void invoiceDetails(Invoice *record) const;
+    void invoiceDetails(Invoice *record) const; ///< after a fetch of whole invoices: all fields
+    /** Id, customer, type, number, dates, reference, total and balance; the other fields are left as they are. */
     void invoiceSummary(Invoice *record) const;
     void invoiceItem(InvoiceItem *record) const;
     void payment(Payment *record) const;
+    /** Of the invoice the same but type and reference. */
     void invoiceAndPayment(Invoice *invoice, Payment *payment) const;
-    void printScriptSummary(PrintScript *record) const;
+    void printScriptSummary(PrintScript *record) const; ///< without the source, which is left as it is
     void printScriptDetails(PrintScript *record) const;
     void settings(Settings *record) const;
 

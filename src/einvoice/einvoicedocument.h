@@ -61,7 +61,6 @@ struct Tax {
     QString reason, reasonCode;  ///< BT-120, BT-121
 };
 
-/** The whole invoice. */
 struct Document {
     /** How it is sent: BT-3 380 invoice and interest, 381 creditNote; notSent is for people only. */
     enum Kind { invoice, creditNote, interest, notSent };

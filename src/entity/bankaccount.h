@@ -15,7 +15,6 @@ public:
     bool visible = true;  ///< printed on invoices
     bool deleted = false; ///< removed, but still referable from old payments
 
-    /** All fields, as of a new record; the copy is a whole one. */
     void clear() { *this = BankAccount(); }
     void copy(BankAccount *target) const { *target = *this; }
 

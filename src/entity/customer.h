@@ -15,11 +15,10 @@ public:
     QString name, streetName, postCode, townName, country, contact;
     QString vatNumber;       ///< business ID or VAT number
     QString referenceNumber; ///< the customer's own payment reference, used on every invoice when not empty
-    /** PaymentTerms go to new invoices when not empty, in the form of Invoice::paymentTerms. */
+    /** Payment terms, when not empty, go to new invoices; see Invoice::paymentTerms. */
     QString emailAddress, phoneNumber, paymentTerms;
     bool deleted = false; ///< removed, but still referable from old invoices
 
-    /** All fields and properties, as of a new record; the copy is a whole one. */
     void clear() { *this = Customer(); }
     void copy(Customer *target) const { *target = *this; }
 

@@ -35,7 +35,6 @@ public:
     int totalAmount = 0;         ///< cents
     int balance = 0;             ///< the part of the total not yet paid, cents
 
-    /** All fields and properties, as of a new record; the copy is a whole one. */
     void clear() { *this = Invoice(); }
     void copy(Invoice *target) const { *target = *this; }
 

@@ -23,7 +23,6 @@ public:
     QString text;             ///< a free comment line
     int rowNumber = 0;        ///< place on the invoice
 
-    /** All fields, as of a new record; the copy is a whole one. */
     void clear() { *this = InvoiceItem(); }
     void copy(InvoiceItem *target) const { *target = *this; }
 

@@ -11,7 +11,6 @@
  */
 class InvoiceSelection {
 public:
-    /** A range of invoice numbers. */
     struct NumberRange {
         int from, to; ///< both included; -1 is no limit
     };

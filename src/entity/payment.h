@@ -12,7 +12,6 @@ public:
     int bankAccountId = -1; ///< -1: no account
     int amount = 0;         ///< cents; negative for a correction
 
-    /** All fields, as of a new record; the copy is a whole one. */
     void clear() { *this = Payment(); }
     void copy(Payment *target) const { *target = *this; }
 };

@@ -11,7 +11,6 @@ public:
     QString name;
     QString sourceCode; ///< empty in the cached list, which holds no sources
 
-    /** All fields, as of a new record; the copy is a whole one. */
     void clear() { *this = PrintScript(); }
     void copy(PrintScript *target) const { *target = *this; }
 };

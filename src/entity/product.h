@@ -18,7 +18,6 @@ public:
     bool vatExcluded = false; ///< the kind of `amount`
     QString category;         ///< free text, empty for none
 
-    /** All fields, as of a new record; the copy is a whole one. */
     void clear() { *this = Product(); }
     void copy(Product *target) const { *target = *this; }
 

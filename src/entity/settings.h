@@ -15,7 +15,6 @@ public:
     QString sellerName, sellerStreetName, sellerPostCode, sellerTownName, sellerCountry, sellerBusinessId;
     QByteArray sellerLogo; ///< an image file's bytes, empty for none
 
-    /** All fields and properties; the copy is a whole one. */
     void clear() { *this = Settings(); }
     void copy(Settings *target) const { *target = *this; }
 

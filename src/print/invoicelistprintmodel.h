@@ -34,7 +34,6 @@ public:
     };
     static constexpr int defaultColumnFlags = 0x1ff; ///< all but the balance and the reference number
 
-    /** A line of the list. */
     struct Entry {
         Invoice invoice;        ///< without the fields that no list shows
         int totalVatAmount = 0; ///< cents

@@ -39,7 +39,6 @@ public:
     };
     static constexpr int defaultColumnFlags = 0x3ff; ///< all
 
-    /** A payment and its invoice. */
     struct Entry {
         Invoice invoice; ///< what the journal shows of it; without its type, see invoiceType()
         Payment payment; ///< `amount` in cents

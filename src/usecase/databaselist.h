@@ -12,7 +12,6 @@
 /** The settings file's list of databases, which the graphical edition shares: unknown keys of an entry are kept. */
 class DatabaseList {
 public:
-    /** See the constructor. */
     enum Access { reading, writing };
 
     /**

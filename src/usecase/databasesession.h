@@ -87,7 +87,6 @@ public:
 private:
     static constexpr int listCount = 5; ///< of CachedList
 
-    /** Of a cached list. */
     struct ListState {
         bool fetched = false;   ///< need not be read again
         long long version = -1; ///< Database::foreignChanges() when it was read; -1: not read or not known

@@ -16,7 +16,6 @@ struct UseCaseContext;
 /** Writes invoices, one PDF or Finvoice file each, or all in one CSV file. */
 namespace ExportInvoices {
 
-/** What to write, and how. */
 struct Request {
     InvoiceCriteria criteria;      ///< none: all invoices; files are written in the order of the numbers
     QString fileName;              ///< a template, see ExportFileName; empty: lasku-$i.pdf, lasku-$i.xml, laskut.csv

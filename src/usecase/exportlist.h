@@ -18,7 +18,6 @@ namespace ExportList {
 /** The invoice list, the registers of customers and products, and the payment journal. */
 enum Kind { invoices = 0, customers = 1, products = 2, payments = 3 };
 
-/** What to write, and how. */
 struct Request {
     InvoiceCriteria invoices;                   ///< of the lists of invoices and payments
     PaymentCriteria payments;                   ///< of the list of payments

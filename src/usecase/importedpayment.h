@@ -4,7 +4,11 @@
 #include <QDate>
 #include <QString>
 
-/** What became of a payment. */
+/**
+ * What became of a payment. saved: matched and new; alreadyImported: an equal payment is stored; unmatched: it names no
+ * invoice, or takes back what nobody has paid; ambiguous: several invoices would do; error: a damaged record, or an
+ * amount too large for the invoice.
+ */
 enum class ImportResult { saved, alreadyImported, unmatched, ambiguous, error };
 
 /** A payment (or a damaged record) of a bank's file, and what became of it. */

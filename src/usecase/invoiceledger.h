@@ -51,7 +51,6 @@ public:
     static QString comparableId(const QString &archiveId);
 
 private:
-    /** A payment, stored or of the file. */
     struct Entry {
         Payment payment;      ///< without an id while it is new
         QString archiveId;    ///< comparable form behind its format, empty when not known

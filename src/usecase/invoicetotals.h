@@ -6,7 +6,6 @@ struct UseCaseContext;
 /** An invoice's stored total and balance, recomputed from its rows and payments. */
 namespace InvoiceTotals {
 
-/** What became of a recomputation. */
 enum class Outcome {
     updated,  ///< saved, with the balance, also when neither has changed
     failed,   ///< the statement failed or there is no such invoice: what was saved before stays saved

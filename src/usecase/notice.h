@@ -4,7 +4,7 @@
 /** What a use case tells of its work on the way, for those who want to follow it. Without words, as a Failure. */
 namespace Notice {
 
-/** The comments name the arguments, in order. */
+/** Where a code takes arguments its comment names them, in order. */
 enum Code {
     openingSqlite,     ///< file name
     openingPostgresql, ///< database name
