@@ -10,14 +10,15 @@ public:
     explicit PostgreSQLDatabase(QObject *parent = nullptr); ///< connects nothing
 
     /**
-     * Reads the keys "host", "port", "databaseName", "username", "password" and, for a new database, "name" (the
-     * seller's name). An existing database without tables is filled.
+     * Reads the keys "host" (several, with commas between: the one that takes writes), "port", "databaseName",
+     * "username", "password", "sslmode", "sslrootcert" and, for a new database, "name" (the seller's name). An existing
+     * database without tables is filled.
      */
     bool open(QSettings *settings) override;
     bool driverAvailable() const override;
-    bool beginWriting() override;
-    bool beginReading() override;
-    Query *query() override;
+    bool beginWriting() override; ///< waits up to five seconds for the lock that all writers of this program take
+    bool beginReading() override; ///< repeatable read, read only
+    Query *query() override;      ///< see PostgreSQLQuery
     bool isLockError(const QString &reason) const override;
 
 protected:

@@ -99,17 +99,17 @@ public:
     // Readers of the current row
     void bankAccount(BankAccount *record) const;
     void customer(Customer *record) const;
-    void product(Product *record) const;
+    void product(Product *record) const;        ///< the price as 32 bits, see Product::amount
     void invoiceDetails(Invoice *record) const; ///< after a fetch of whole invoices: all fields
     /** Id, customer, type, number, dates, reference, total and balance; the other fields are left as they are. */
     void invoiceSummary(Invoice *record) const;
-    void invoiceItem(InvoiceItem *record) const;
-    void payment(Payment *record) const;
+    void invoiceItem(InvoiceItem *record) const; ///< also after fetchItemsOf()
+    void payment(Payment *record) const;         ///< leaves the account as it is for a payment without one
     /** Of the invoice the same but type and reference. */
     void invoiceAndPayment(Invoice *invoice, Payment *payment) const;
     void printScriptSummary(PrintScript *record) const; ///< without the source, which is left as it is
     void printScriptDetails(PrintScript *record) const;
-    void settings(Settings *record) const;
+    void settings(Settings *record) const; ///< properties are replaced
 
     /** 1 makes invoiceSummary() tell each balance at the criteria's balance date instead of the stored one. */
     void setInvoiceBalanceMode(int mode) { m_invoiceBalanceMode = mode; }
@@ -118,18 +118,18 @@ public:
     // Saving: a record with a negative id is inserted and gets its id, any other is updated.
     [[nodiscard]] bool saveBankAccount(BankAccount *record);
     [[nodiscard]] bool saveCustomer(Customer *record);
-    [[nodiscard]] bool saveInvoice(Invoice *record);
+    [[nodiscard]] bool saveInvoice(Invoice *record); ///< total and balance as they are in the record
     [[nodiscard]] bool saveInvoiceItem(InvoiceItem *record);
-    [[nodiscard]] bool savePayment(Payment *record);
+    [[nodiscard]] bool savePayment(Payment *record); ///< an account of -1 is stored as none
     [[nodiscard]] bool savePrintScript(PrintScript *record);
-    [[nodiscard]] bool saveProduct(Product *record);
+    [[nodiscard]] bool saveProduct(Product *record);   ///< the price with 64 bits
     [[nodiscard]] bool saveSettings(Settings *record); ///< updates the one row, or inserts it
 
     // Deleting; bank accounts and customers are only marked. Nothing cascades. Ranges are inclusive, of invoice ids.
     [[nodiscard]] bool deleteProduct(int id);
-    [[nodiscard]] bool deleteBankAccount(int id);
-    [[nodiscard]] bool deleteCustomer(int id);
-    [[nodiscard]] bool deleteInvoice(int id);
+    [[nodiscard]] bool deleteBankAccount(int id); ///< sets its mark
+    [[nodiscard]] bool deleteCustomer(int id);    ///< sets its mark
+    [[nodiscard]] bool deleteInvoice(int id);     ///< its rows and payments stay
     [[nodiscard]] bool deleteInvoicesBetween(int first, int last);
     [[nodiscard]] bool deleteInvoiceItem(int id);
     [[nodiscard]] bool deleteInvoiceItems(int invoiceId);
@@ -141,11 +141,11 @@ public:
 
     /** Id and reference number of every invoice that has one, read with invoiceReference(). */
     [[nodiscard]] bool fetchInvoiceReferences();
-    void invoiceReference(Invoice *record) const;
+    void invoiceReference(Invoice *record) const; ///< no other field
 
     // Lists with what people see of the neighbouring tables; what is computed is computed by the database.
     static QStringList invoiceSortKeys(); ///< for InvoiceSelection::sort
-    static QStringList paymentSortKeys();
+    static QStringList paymentSortKeys(); ///< for fetchPaymentList()
     /** @param withDetails  what invoiceListRow() is to read besides the summary */
     [[nodiscard]] bool fetchInvoiceList(const InvoiceSelection &selection, bool withDetails);
     /** @param customerNumber  set to -1, and the name to a null text, for an invoice whose customer is gone */
@@ -172,7 +172,7 @@ public:
     int newestProductId();
     int newestBankAccountId();
     int newestPaymentId();
-    int maxInvoiceNumber();           ///< 0 without invoices, -1 on failure
+    int maxInvoiceNumber();           ///< 0 without invoices, -1 on failure; lastError() tells either way
     int maxCustomerNumber();          ///< of all customers, removed ones too; 0 without customers, -1 on failure
     int nextRowNumber(int invoiceId); ///< one past the invoice's last row, 0 without rows, -1 on failure
 

@@ -15,12 +15,12 @@ public:
 
     /** Reads the keys "filename" and, for a new database, "name" (the seller's name). */
     bool open(QSettings *settings) override;
-    void close() override;
+    void close() override; ///< statements of the caller must be gone before
     bool driverAvailable() const override;
-    bool beginWriting() override;
-    bool beginReading() override { return transaction(); }
-    long long foreignChanges() override;
-    bool backupTo(const QString &filename) override;
+    bool beginWriting() override;                          ///< waits up to five seconds for another program's lock
+    bool beginReading() override { return transaction(); } ///< reads see the moment of the first one
+    long long foreignChanges() override;                   ///< PRAGMA data_version
+    bool backupTo(const QString &filename) override;       ///< with the permissions of the database's own file
     bool isLockError(const QString &reason) const override;
 
     /**
