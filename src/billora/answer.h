@@ -13,19 +13,23 @@
 
 class ProblemSink;
 
+/**
+ * text for people or, in a pipe, lines parted by tabs; json one value (RFC 8259); jsonl an object a line (JSON Lines);
+ * csv with commas and LF (quoted as in RFC 4180). All in UTF-8.
+ */
 enum class OutputForm { text, json, jsonl, csv };
 
 /** How the answer of a command is written. */
 struct AnswerOptions {
-    OutputForm form = OutputForm::text;
-    bool quiet = false;      ///< only the handle of each record
-    bool isTerminal = false; ///< people read it: aligned, their numbers and dates
-    bool hasColor = false;
-    int width = 80;     ///< of the terminal, columns
-    QStringList fields; ///< the ones asked for, empty for the usual ones
-    bool full = false;  ///< all fields in a list, too
-    bool isDryRun = false;
-    QString key; ///< of a repeatable request that is a batch
+    OutputForm form = OutputForm::text; ///< the machine forms do not depend on the language
+    bool quiet = false;                 ///< only the handle of each record
+    bool isTerminal = false;            ///< people read it: aligned, their numbers and dates
+    bool hasColor = false;              ///< SGR codes; only where isTerminal
+    int width = 80;                     ///< of the terminal, columns
+    QStringList fields;                 ///< the ones asked for, empty for the usual ones
+    bool full = false;                  ///< all fields in a list, too
+    bool isDryRun = false;              ///< the answer says so: nothing was stored
+    QString key;                        ///< of a repeatable request that is a batch
 };
 
 /**
@@ -37,9 +41,11 @@ public:
     /** Takes bytes of the answer. @return false when nobody reads any more */
     using Sink = std::function<bool(const QByteArray &)>;
 
+    /** @param sink  called from within flush() only */
     Answer(const AnswerOptions &options, Sink sink);
 
     const AnswerOptions &options() const { return m_options; }
+    /** Also where fields are chosen. */
     bool isText() const { return m_options.form == OutputForm::text && !m_options.quiet; }
     /** Whether sentences for people are wanted. */
     bool wantsSentences() const { return isText() && m_options.fields.isEmpty(); }
@@ -78,25 +84,32 @@ public:
     bool isReaderGone() const { return m_isReaderGone; }
 
 private:
+    /**
+     * Sets table and fields. @param whole  a single record: all fields. @return false, with the problem told, for a
+     * name that is none of the table's
+     */
     bool choose(const RecordTable &table, bool whole, ProblemSink &sink);
+    /** Without --fields: columns for people, the summary or all for programs. */
     void chooseUsual(const RecordTable &table, bool whole);
+    /** By m_fields; quoted only where it must be. */
     void writeCsvLine(const std::function<QString(const Field &)> &cell);
-    void writeRecord(const void *record);
+    void writeRecord(const void *record); ///< in the form that was asked for, with its end of line
+    /** A field that is not set has no line; lists of records below as tables. */
     void showForPeople(const RecordTable &table, const void *record);
-    QString handleOf(const void *record) const;
-    void endMembers(JsonWriter &json) const;
+    QString handleOf(const void *record) const; ///< `id:7` when no field of the table that is a handle is set
+    void endMembers(JsonWriter &json) const;    ///< the marks of a trial and of a repeated request
 
-    AnswerOptions m_options;
-    Sink m_sink;
-    QByteArray m_buffer;
-    const RecordTable *m_table = nullptr;
-    QVector<const Field *> m_fields; ///< chosen, in the order of the output
-    std::unique_ptr<TableWriter> m_columns;
+    AnswerOptions m_options;                ///< fields may be added to by setFull() only
+    Sink m_sink;                            ///< takes what is flushed
+    QByteArray m_buffer;                    ///< UTF-8, not yet given to the sink
+    const RecordTable *m_table = nullptr;   ///< of the present list or record; not owned
+    QVector<const Field *> m_fields;        ///< chosen, in the order of the output
+    std::unique_ptr<TableWriter> m_columns; ///< a list for people: all rows are held, for the widths
     std::unique_ptr<JsonMembers> m_members; ///< of m_fields, made when first needed
-    bool m_isFirst = true;
-    bool m_wasWritten = false;
-    bool m_isReaderGone = false;
-    bool m_isReplayed = false;
+    bool m_isFirst = true;                  ///< no record of the list was added yet
+    bool m_wasWritten = false;              ///< take() can no longer take all back
+    bool m_isReaderGone = false;            ///< nothing is written from then on
+    bool m_isReplayed = false;              ///< see setReplayed()
 };
 
 #endif

@@ -12,6 +12,7 @@
  */
 class Arguments {
 public:
+    /** Also of a value that is empty. */
     bool has(const QString &name) const { return m_values.contains(name); }
     bool has(const char *name) const { return has(QLatin1String(name)); }
     /** The value, null when not given; of a repeated option the last. */
@@ -46,7 +47,7 @@ public:
     QStringList nulls;    ///< names that were given as null: their texts are empty
 
 private:
-    QHash<QString, QStringList> m_values;
+    QHash<QString, QStringList> m_values; ///< in the order given; never null, perhaps empty
 };
 
 #endif

@@ -14,8 +14,8 @@ namespace CsvImport {
 
 /** A line of the file as what a command is given. */
 struct Line {
-    int number = 0; ///< in the file, from 1
-    Arguments fields;
+    int number = 0;   ///< in the file, from 1
+    Arguments fields; ///< only the columns that the title line names
 };
 
 /**

@@ -15,11 +15,13 @@ namespace JsonArguments {
 
 /** A line of a batch: `command`, `args`, `as` and `key`; the others are refused. */
 struct Line {
-    QString command, as, key;
-    Arguments arguments;
+    QString command, as, key; ///< null when not given; `as` names the record for later lines
+    Arguments arguments;      ///< empty without `args`
 };
 
+/** UTF-8. @return false with the problem told; what was read before it is in the arguments */
 [[nodiscard]] bool readObject(const ValueReader &reader, const QByteArray &json, Arguments &arguments);
+/** Without its end of line. Members of other names are a problem, as is one without `command`. */
 [[nodiscard]] bool readLine(const ValueReader &reader, const QByteArray &json, Line &line);
 
 } // namespace JsonArguments

@@ -17,12 +17,12 @@ public:
 
 private:
     struct Member {
-        QByteArray prefix; ///< up to the value
-        const Field *field;
+        QByteArray prefix;  ///< up to the value
+        const Field *field; ///< not owned
     };
 
-    QVector<Member> m_members;
-    QByteArray m_end; ///< behind the last value
+    QVector<Member> m_members; ///< in the order of the output
+    QByteArray m_end;          ///< behind the last value
 };
 
 /** Appends strict JSON (RFC 8259) in UTF-8 to a buffer, as it is told; nothing is held. */
@@ -31,17 +31,19 @@ public:
     /** @param target  belongs to the caller */
     explicit JsonWriter(QByteArray &target) : m_target(target) {}
 
+    /** Each value, or member, puts its own comma in front; balance and names are the caller's care. */
     void beginObject();
     void endObject();
     void beginArray();
     void endArray();
-    void name(const char *name);
-    void string(const QString &value);
-    void number(long long value);
+    void name(const char *name);       ///< ASCII without quotes: not escaped
+    void string(const QString &value); ///< escaped
+    void number(long long value);      ///< digits; money and other decimals are strings, see ValueWriter
     void boolean(bool value);
     void null();
 
     // A member of the current object.
+    /** A null text becomes null, an empty one "". */
     void member(const char *key, const QString &value);
     void member(const char *key, const char *value) { member(key, QString::fromUtf8(value)); }
     void member(const char *key, int value);
@@ -52,13 +54,13 @@ public:
     /** An object of all fields of a table. */
     void record(const RecordTable &table, const void *record);
 
-    QByteArray &target() { return m_target; }
+    QByteArray &target() { return m_target; } ///< the caller's buffer
 
 private:
-    void separate();
+    void separate(); ///< a comma unless the value is the first of its object or array
 
-    QByteArray &m_target;
-    bool m_needsComma = false;
+    QByteArray &m_target;      ///< not owned
+    bool m_needsComma = false; ///< before the next value or member
 };
 
 #endif

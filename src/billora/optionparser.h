@@ -22,6 +22,7 @@ struct CommandLine {
  */
 namespace OptionParser {
 
+/** Never fails: what is wrong is in the result, the first problem only. */
 CommandLine parse(const QStringList &words);
 
 /** What is missing for the command to run: its required words and options. @return a problem that may not be set */

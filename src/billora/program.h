@@ -19,17 +19,20 @@ public:
     int run(const QStringList &words);
 
 private:
-    bool readGlobals(const CommandLine &line);
-    bool readForm(const Arguments &global);
-    void chooseLanguage(const Arguments &global);
+    bool readGlobals(const CommandLine &line);    ///< the session has the problem when it is false
+    bool readForm(const Arguments &global);       ///< json, jsonl and csv exclude each other
+    void chooseLanguage(const Arguments &global); ///< before anything is told: also the help depends on it
+    /** For shells, see Completer. @return 0 whatever is wrong */
     int complete(const QStringList &before, QStringList words);
+    /** @return the exit code; an answer that was not written is taken back on failure. */
     int execute(const Command &command, const Arguments &arguments);
+    /** To standard error, as JSON in the machine forms. @return the exit code of the problem */
     int report(const Problem &problem) const;
 
-    Session m_session;
-    AnswerOptions m_options;
-    Manners m_manners;
-    QString m_key;
+    Session m_session;       ///< opened when the first command needs it
+    AnswerOptions m_options; ///< of the global options
+    Manners m_manners;       ///< of the global options
+    QString m_key;           ///< of a repeatable request, empty for none
 };
 
 #endif

@@ -6,16 +6,17 @@
 /** A bar on standard error, when that is a terminal and there is enough to do; gone when the work is done. */
 class ProgressBar {
 public:
+    /** @param total  below twenty no bar is shown */
     explicit ProgressBar(int total);
-    ~ProgressBar();
+    ~ProgressBar(); ///< erases the bar
 
-    void show(int done);
+    void show(int done); ///< ten times a second at most
 
 private:
-    int m_total;
-    bool m_isWanted;
-    bool m_isShown = false;
-    QElapsedTimer m_sinceLast;
+    int m_total;               ///< of what is done
+    bool m_isWanted;           ///< standard error is a terminal, and there is enough to do
+    bool m_isShown = false;    ///< something is to be erased
+    QElapsedTimer m_sinceLast; ///< since the bar was last drawn
 };
 
 #endif

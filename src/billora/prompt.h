@@ -11,6 +11,7 @@ bool agrees(const QString &question);
 /** Asks for the number of records concerned to be typed. */
 bool agreesByNumber(const QString &question, int count);
 
+/** answered: also by accepting the default; back: `<`; ended: the input has no more lines. */
 enum Outcome { answered, back, ended };
 /**
  * Asks for a text. An empty answer is the default; `<` goes back.

@@ -21,6 +21,7 @@ class Task;
  */
 namespace References {
 
+/** Letter case of names aside. */
 [[nodiscard]] bool customer(Task &task, const QString &option, const QString &word, Customer &record);
 /** A number wins over a name. */
 [[nodiscard]] bool product(Task &task, const QString &option, const QString &word, Product &record);

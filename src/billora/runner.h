@@ -12,6 +12,7 @@
 /** Runs commands, however they came: one of the command line, a line of a batch, a tool's call. */
 class Runner {
 public:
+    /** @param session  not owned, opened when a command needs it */
     explicit Runner(Session &session) : m_session(session) {}
 
     /**
@@ -36,11 +37,13 @@ public:
     static QString digest(const QString &command, const Arguments &arguments);
 
 private:
+    /** Flags that are neither yes nor no, and what is missing; the problem is then told. */
     bool check(const Command &command, const Arguments &arguments, const Manners &manners);
+    /** Names and types that a program gave must be the command's: nothing is overlooked. */
     bool checkNames(const Command &command, const Arguments &arguments);
-    bool runKeyed(Task &task, const QString &key);
+    bool runKeyed(Task &task, const QString &key); ///< the request and its key are kept together, or neither
 
-    Session &m_session;
+    Session &m_session; ///< not owned
 };
 
 #endif

@@ -11,11 +11,13 @@ class Task;
 /** How invoices and payments are selected, the same for every command that works on several. */
 namespace Selection {
 
+/** The words of a command that works on invoices; none is required. */
 inline constexpr Option invoiceWords[] = {
     {"invoices", ValueType::invoices, TEXT("laskujen numeroita ja välejä: 1001 1010-1020 1030-; - lukee lisää"),
      Option::plainWord | Option::list | Option::onlyWord},
 };
 
+/** Every filter that is given must hold. */
 inline constexpr Option invoiceFilters[] = {
     {"open", ValueType::flag, TEXT("joilla on avointa")},
     {"paid", ValueType::flag, TEXT("joilla ei ole avointa")},

@@ -14,6 +14,7 @@
  */
 class Session : public UseCaseListener, public ProblemSink {
 public:
+    /** Chooses nothing yet; see choose(). */
     Session();
     ~Session() override;
 
@@ -21,26 +22,29 @@ public:
     void choose(const QString &settingsFile, const QString &database);
     void setVerbose(bool verbose) { m_isVerbose = verbose; }
 
+    /** Both live as long as the session. */
     UseCaseContext &context() { return *m_context; }
     Registry &registry() { return m_registry; }
-    QString settingsFile() const;
+    QString settingsFile() const; ///< its path, also when there is no such file
 
     /** Opens the chosen company unless that is done. @return false with the problem set */
     [[nodiscard]] bool open();
 
+    /** Of the command that is run; must be cleared before the next one. */
     const Problem &problem() const { return m_problem; }
     void clearProblem() { m_problem = Problem(); }
 
+    /** The first one counts, a later one is dropped. @return false */
     bool fail(const Problem &problem) override;
     bool fail(Failure::Code code, const QStringList &arguments = {}) override;
-    void note(Notice::Code code, const QStringList &arguments = {}) override;
+    void note(Notice::Code code, const QStringList &arguments = {}) override; ///< on standard error, when verbose
 
 private:
-    Registry m_registry;
-    std::unique_ptr<UseCaseContext> m_context;
-    Problem m_problem;
-    QString m_database;
-    bool m_isVerbose = false;
+    Registry m_registry;                       ///< cached lists and settings
+    std::unique_ptr<UseCaseContext> m_context; ///< refers to the registry
+    Problem m_problem;                         ///< not set until a failure
+    QString m_database;                        ///< as chosen; empty: the last used
+    bool m_isVerbose = false;                  ///< notices are told
 };
 
 #endif

@@ -7,7 +7,7 @@
 /** What somebody may have meant by a word that is none. */
 namespace Suggestions {
 
-constexpr int most = 3;
+constexpr int most = 3; ///< of one word
 
 /** @return up to three candidates at an edit distance (with swaps) of at most a third of the word, nearest first */
 QStringList nearest(const QString &word, const QStringList &candidates);

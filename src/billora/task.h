@@ -12,27 +12,29 @@
 struct Manners {
     bool isInteractive = false; ///< questions can be asked
     bool agreesToAll = false;   ///< --yes
-    bool isDryRun = false;
+    bool isDryRun = false;      ///< commands run as ever, and nothing is stored
 };
 
 /** One command being run: what it was given and where its answer goes. */
 class Task {
 public:
+    /** None of the arguments is copied but the manners: the others outlive the task. */
     Task(Session &runSession, const Command &run, const Arguments &given, Answer &to, const Manners &how)
         : session(runSession), command(run), arguments(given), answer(to), manners(how),
           reader(runSession, QDate::currentDate())
     {
     }
 
+    /** The first problem that is told ends the command. */
     Session &session;
     const Command &command;
     const Arguments &arguments;
     Answer &answer;
     const Manners manners;
-    const ValueReader reader;
-    int exitCode = 0; ///< of a command that ended well, 0 or exitNeedsLook
+    const ValueReader reader; ///< dates count from the day on which the task was made
+    int exitCode = 0;         ///< of a command that ended well, 0 or exitNeedsLook
 
-    UseCaseContext &context() { return session.context(); }
+    UseCaseContext &context() { return session.context(); } ///< the session's
 
     /** Tells the problem that ends the command. @return false */
     bool fail(Problem::Code code, const QString &message, const QString &option = QString(),

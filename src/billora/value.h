@@ -8,9 +8,11 @@
 /** A field's value as writers see it; its ValueType tells what a number is. */
 class Value {
 public:
+    /** A number is scaled as its ValueType says. */
     enum Kind { null, text, number, boolean, date, records };
 
     Value() = default; ///< null: not set
+    /** Implicit: getters of tables return members as they are. Null texts are texts too. */
     Value(const QString &value) : m_kind(text), m_text(value) {}
     Value(int value) : m_kind(number), m_number(value) {}
     Value(long long value) : m_kind(number), m_number(value) {}
@@ -21,6 +23,7 @@ public:
     Value(const QVector<const void *> &list) : m_kind(records), m_records(list) {}
     Value(const char *) = delete; // would be taken for a bool
 
+    /** Each accessor but for kind() is for its kind only, see Kind; of another one it gives an empty value. */
     Kind kind() const { return m_kind; }
     bool isNull() const { return m_kind == null; }
     const QString &toText() const { return m_text; }
@@ -30,11 +33,11 @@ public:
     const QVector<const void *> &toRecords() const { return m_records; }
 
 private:
-    Kind m_kind = null;
-    long long m_number = 0;
+    Kind m_kind = null;     ///< which of the members counts
+    long long m_number = 0; ///< also 0 and 1 of a boolean
     QString m_text;
     QDate m_date;
-    QVector<const void *> m_records;
+    QVector<const void *> m_records; ///< not owned
 };
 
 #endif

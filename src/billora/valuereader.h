@@ -20,7 +20,7 @@ public:
 
 /** From the first to the last day, both included; an invalid date is no limit. */
 struct Period {
-    QDate from, to;
+    QDate from, to; ///< from is not after to
 };
 
 /**
@@ -32,7 +32,7 @@ public:
     /** @param sink  belongs to the caller. @param today  what relative dates count from */
     ValueReader(ProblemSink &sink, const QDate &today) : m_sink(sink), m_today(today) {}
 
-    const QDate &today() const { return m_today; }
+    const QDate &today() const { return m_today; } ///< what relative dates count from
 
     /** As it is; a bank type without its blanks and in upper case. Control characters but LF and TAB are refused. */
     bool text(const QString &name, ValueType type, const QString &value, QString &result) const;
@@ -67,10 +67,10 @@ public:
     bool fail(const Problem &problem) const { return m_sink.fail(problem); }
 
 private:
-    bool parseDate(const QString &value, QDate &result) const;
-    bool parsePeriod(const QString &value, Period &result) const;
+    bool parseDate(const QString &value, QDate &result) const;    ///< without telling a problem
+    bool parsePeriod(const QString &value, Period &result) const; ///< without telling a problem
 
-    ProblemSink &m_sink;
+    ProblemSink &m_sink; ///< not owned
     QDate m_today;
 };
 

@@ -3,7 +3,7 @@
 
 /** What a field holds or an option takes: how it is read, and how it is written in each form of output. */
 enum class ValueType {
-    text,
+    text,     ///< may hold LF and tab, no other control characters
     word,     ///< one of the field's choices
     flag,     ///< yes or no; as an option it stands alone
     integer,  ///< 32 bits
@@ -12,9 +12,9 @@ enum class ValueType {
     price,    ///< four decimals, two shown at least
     quantity, ///< four decimals
     percent,  ///< two decimals
-    date,
-    period, ///< one day up to all days; options only
-    file,
+    date,     ///< without a time; `2026-03-31` in the machine forms
+    period,   ///< one day up to all days; options only
+    file,     ///< a name; `-` is standard input or output where the command says so
     secret,   ///< never echoed
     fields,   ///< names of fields, separated by commas; options only
     row,      ///< the grammar of RowWords; options only

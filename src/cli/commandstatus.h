@@ -17,7 +17,7 @@ public:
     explicit CommandStatus(const Diagnostics &diagnostics) : m_diagnostics(diagnostics) {}
 
     QString command;   ///< the command's name, in front of its error message; empty for an unknown command
-    QString lastError; ///< without the command's name; keeps its text until clear()
+    QString lastError; ///< of the last failure, without the command's name; empty after clear()
     int exitCode = 0;  ///< an ExitCode; what the process ends with
 
     /** For the next command line; the process ends with the exit code of the last. */

@@ -30,8 +30,9 @@ public:
      * @return false when it cannot be opened; a missing SQLite file gives true with exists() false
      */
     [[nodiscard]] virtual bool open(QSettings *settings) = 0;
-    virtual void close();
+    virtual void close(); ///< drops the connection; statements made of it must be gone before
 
+    /** A missing database is made by open(); otherwise it is not, and exists() tells. */
     void setCreateIfNotExist(bool create) { m_createIfNotExist = create; }
     bool isCreateIfNotExist() const { return m_createIfNotExist; }
     /** Whether open() upgrades an older schema; it fails otherwise. */
@@ -39,10 +40,11 @@ public:
     /** A glance opens an SQLite file for reading only and fails at once where another program holds it. */
     void setGlance(bool isGlance) { m_isGlance = isGlance; }
 
-    virtual bool driverAvailable() const = 0;
+    virtual bool driverAvailable() const = 0; ///< whether this build of the library can speak to the backend
     /** @return whether the database existed before open() or was created by it */
     bool exists() const { return m_exists; }
 
+    /** Not nested; the first two leave the reason of a failure in lastError(). */
     [[nodiscard]] virtual bool transaction();
     [[nodiscard]] virtual bool commit();
     virtual bool rollback();
@@ -83,9 +85,10 @@ public:
     virtual Query *query();
 
 protected:
+    /** @param connectionName  one per backend: a second database of the kind takes the connection over */
     Database(const QString &connectionName, QObject *parent);
 
-    QSqlDatabase connection(bool open) const;
+    QSqlDatabase connection(bool open) const; ///< the named one. @param open  opens it when it is closed
     /** Runs the creation script, then writes the first records. */
     bool createTables(const QString &sellerName);
     /**
@@ -103,14 +106,14 @@ protected:
     virtual bool isSQLite() const = 0;
     virtual QString creationScript() const = 0;
 
-    const QString m_connectionName;
-    bool m_createIfNotExist = false;
-    bool m_exists = false;
-    bool m_isUpgradeAllowed = true;
-    bool m_isGlance = false;
+    const QString m_connectionName;  ///< of the library's list of connections
+    bool m_createIfNotExist = false; ///< see setCreateIfNotExist()
+    bool m_exists = false;           ///< see exists()
+    bool m_isUpgradeAllowed = true;  ///< see setUpgradeAllowed()
+    bool m_isGlance = false;         ///< see setGlance()
 
 private:
-    QString m_lastError;
+    QString m_lastError; ///< empty: the connection tells its own
 };
 
 #endif

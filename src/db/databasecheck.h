@@ -12,9 +12,9 @@ class QSqlQuery;
 /** Something in the database that is not as it should be. */
 struct Finding {
     const char *check; ///< which check found it, see DatabaseCheck
-    QString table;
-    int id; ///< of the record, -1 when it is about no single one
-    QString message;
+    QString table;     ///< empty when it is about the whole file
+    int id;            ///< of the record, -1 when it is about no single one
+    QString message;   ///< a sentence in the language of the run, figures in it with a comma
 };
 
 /**
@@ -27,6 +27,7 @@ struct Finding {
 class DatabaseCheck {
     Q_DECLARE_TR_FUNCTIONS(DatabaseCheck)
 public:
+    /** @param connection  open; shared with the database that it is of */
     DatabaseCheck(const QSqlDatabase &connection, bool sqlite) : m_connection(connection), m_isSQLite(sqlite) {}
 
     /** @return false, with the reason in lastError(), when a statement fails; the findings so far are kept */
@@ -34,33 +35,36 @@ public:
     /** Writes the right totals and balances where run() found wrong ones, and marks those findings as repaired. */
     [[nodiscard]] bool repairTotals();
 
+    /** In the order of the checks; also the repaired ones. */
     const QVector<Finding> &findings() const { return m_findings; }
     /** Findings that no repair has settled. */
     int openCount() const { return m_findings.size() - m_repairedCount; }
     QString lastError() const { return m_lastError; }
 
 private:
+    /** What the rows and the payments of an invoice come to. */
     struct Sums {
         long long total = 0; ///< cents
-        long long paid = 0;
+        long long paid = 0;  ///< cents
     };
 
-    bool execute(QSqlQuery &query, const QString &sql);
-    void add(const char *check, const char *table, int id, const QString &message);
+    bool execute(QSqlQuery &query, const QString &sql); ///< @return false, with the text kept, on failure
+    void add(const char *check, const char *table, int id, const QString &message); ///< @param id  -1 for none
+    /** One check each. @return false only when a statement fails: findings are no failure */
     bool checkIntegrity();
     bool checkSchema();
     bool checkLinks();
     bool checkReferenceNumbers();
     bool checkNumbers();
     bool checkTotals();
-    bool readSums(QHash<int, Sums> &sums);
+    bool readSums(QHash<int, Sums> &sums); ///< of every invoice, by id, in one pass
 
-    QSqlDatabase m_connection;
-    bool m_isSQLite;
-    QVector<Finding> m_findings;
+    QSqlDatabase m_connection;        ///< open
+    bool m_isSQLite;                  ///< integrity and its statements are SQLite's own
+    QVector<Finding> m_findings;      ///< in the order of the checks
     QHash<int, Sums> m_wrongInvoices; ///< by id, with the right figures
-    int m_repairedCount = 0;
-    QString m_lastError;
+    int m_repairedCount = 0;          ///< findings that repairTotals() settled
+    QString m_lastError;              ///< null until a failure
 };
 
 #endif

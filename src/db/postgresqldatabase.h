@@ -7,20 +7,22 @@
 class PostgreSQLDatabase : public Database {
     Q_OBJECT
 public:
-    explicit PostgreSQLDatabase(QObject *parent = nullptr);
+    explicit PostgreSQLDatabase(QObject *parent = nullptr); ///< connects nothing
 
     /**
-     * Reads the keys "host", "port", "databaseName", "username", "password" and, for a new database, "name" (the
-     * seller's name). An existing database without tables is filled.
+     * Reads the keys "host" (several, with commas between: the one that takes writes), "port", "databaseName",
+     * "username", "password", "sslmode", "sslrootcert" and, for a new database, "name" (the seller's name). An existing
+     * database without tables is filled.
      */
     bool open(QSettings *settings) override;
     bool driverAvailable() const override;
-    bool beginWriting() override;
-    bool beginReading() override;
-    Query *query() override;
+    bool beginWriting() override; ///< waits up to five seconds for the lock that all writers of this program take
+    bool beginReading() override; ///< repeatable read, read only
+    Query *query() override;      ///< see PostgreSQLQuery
     bool isLockError(const QString &reason) const override;
 
 protected:
+    /** See Database. */
     bool isSQLite() const override { return false; }
     QString creationScript() const override { return QStringLiteral(":/sql/postgresql.sql"); }
 
@@ -28,9 +30,10 @@ private:
     /** Outcomes of upgrade() that are not a schema version. */
     enum { noTables = -2, upgradeFailed = -1, noSettingsRow = 0 };
 
+    /** Takes lower-case names of letters, digits and underscores alone: they stand unquoted in the statement. */
     bool createDatabase(QSqlDatabase &database, const QString &name);
-    int upgrade();
-    int upgradeFrom(int version);
+    int upgrade();                ///< @return the schema version that is reached, or one of the outcomes above
+    int upgradeFrom(int version); ///< the caller holds the lock of all writers. @return as upgrade()
 };
 
 #endif

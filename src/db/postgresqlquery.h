@@ -10,11 +10,13 @@ public:
     using Query::Query;
 
 protected:
+    /** What the backend does in its own way, see Query. */
     QString newIdExpression(const char *table) const override;
     int insertedId(const char *table) override;
-    QString refusal(const QVariant &value) const override;
+    QString refusal(const QVariant &value) const override; ///< texts with U+0000, which the server does not store
     QString likeOperator() const override { return QStringLiteral("ILIKE"); }
     QString escapeClause() const override { return QStringLiteral(" ESCAPE E'\\\\'"); }
+    /** A regular expression with both cases of every letter. */
     QString containsPattern(const QString &text) const override;
     QString containsOperator() const override { return QStringLiteral("~"); }
     /** A prepared statement lives on the server, and is lost with the connection. */

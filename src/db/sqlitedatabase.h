@@ -10,17 +10,17 @@
 class SQLiteDatabase : public Database {
     Q_OBJECT
 public:
-    explicit SQLiteDatabase(QObject *parent = nullptr);
+    explicit SQLiteDatabase(QObject *parent = nullptr); ///< opens nothing
     ~SQLiteDatabase() override;
 
     /** Reads the keys "filename" and, for a new database, "name" (the seller's name). */
     bool open(QSettings *settings) override;
-    void close() override;
+    void close() override; ///< statements of the caller must be gone before
     bool driverAvailable() const override;
-    bool beginWriting() override;
-    bool beginReading() override { return transaction(); }
-    long long foreignChanges() override;
-    bool backupTo(const QString &filename) override;
+    bool beginWriting() override;                          ///< waits up to five seconds for another program's lock
+    bool beginReading() override { return transaction(); } ///< reads see the moment of the first one
+    long long foreignChanges() override;                   ///< PRAGMA data_version
+    bool backupTo(const QString &filename) override;       ///< with the permissions of the database's own file
     bool isLockError(const QString &reason) const override;
 
     /**
@@ -30,13 +30,16 @@ public:
     static QString appendSuffixToFilename(const QString &name);
 
 protected:
+    /** See Database. */
     bool isSQLite() const override { return true; }
     QString creationScript() const override { return QStringLiteral(":/sql/sqlite.sql"); }
 
 private:
+    /** Steps one version at a time, each behind a backup. Another program's upgrade is waited for up to a minute. */
     bool upgrade(const QString &filename);
+    /** 0 without a settings row; nothing, with lastError(), when it cannot be read. */
     std::optional<int> storedVersion();
-    void backup(const QString &filename) const;
+    void backup(const QString &filename) const; ///< a failure does not keep the database from opening
 
     std::unique_ptr<QSqlQuery> m_dataVersion; ///< prepared once, run before every use of a cached list
 };

@@ -20,7 +20,7 @@ class Settings;
  * its order. Readers convert what the columns hold and check nothing.
  */
 template <class Record> struct TableColumns {
-    static const char *const table;
+    static const char *const table; ///< the name in both schemas
     /** All columns but the id, comma-separated. */
     static const char *const columns;
     /** The values of `columns`, in order. */

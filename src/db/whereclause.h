@@ -12,9 +12,11 @@
  */
 class WhereClause {
 public:
+    /** @param prefix  of every column, "" or "i." */
     explicit WhereClause(const QString &prefix) : m_prefix(prefix) {}
 
     void add(const char *condition); ///< a condition without parameters
+    /** Nothing for an invalid date, a negative number or an empty text. */
     void add(const char *condition, const QDate &value);
     void add(const char *condition, int value);
     void add(const QString &condition, const QString &value);
@@ -28,9 +30,9 @@ public:
     bool appendTo(QString &sql, QList<QVariant> &params, const QString &keyword) const;
 
 private:
-    QString m_prefix;
-    QStringList m_conditions;
-    QVariantList m_values;
+    QString m_prefix;         ///< in place of "%1"
+    QStringList m_conditions; ///< joined by AND
+    QVariantList m_values;    ///< in the order of the marks
 };
 
 #endif

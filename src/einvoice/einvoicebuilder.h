@@ -15,10 +15,11 @@ namespace EInvoice {
 
 /** What a document is made of; all belong to the caller. */
 struct Source {
+    /** References: their objects must outlive build(), not the document that it makes. */
     const Invoice &invoice;
-    const QVector<InvoiceItem> &items; ///< in their order
-    const Customer &customer;
-    const Settings &settings;
+    const QVector<InvoiceItem> &items;  ///< in their order
+    const Customer &customer;           ///< default-constructed when it is gone
+    const Settings &settings;           ///< for the seller, and for terms that neither invoice nor customer has
     const QList<BankAccount> &accounts; ///< those that are printed
     /** "maksumuistutus" and the like when it is asked for as a document of another kind; empty for its own. */
     QString kindText;

@@ -13,8 +13,8 @@ namespace EInvoice {
 
 /** A line with the row that it was made of. */
 struct SummedRow {
-    const InvoiceItem *row;
-    Line *line; ///< its category, rate and sign are set
+    const InvoiceItem *row; ///< not owned
+    Line *line;             ///< its category, rate and sign are set
 };
 
 /**

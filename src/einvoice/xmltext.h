@@ -12,16 +12,17 @@ public:
 
     /** @param attributes  as they stand, `schemeID="0216"` */
     void open(const char *name, const QString &attributes = QString());
-    void close();
+    void close(); ///< writes nothing for an element that nothing is in
     void leaf(const char *name, const QString &content, const QString &attributes = QString());
 
+    /** Valid XML once every element is closed; the content is escaped, attributes are not. */
     const QString &text() const { return m_text; }
 
 private:
     /** Writes the opened elements that something is in. */
     void flush();
 
-    QString m_text;
+    QString m_text;        ///< one element a line, without indentation
     QStringList m_open;    ///< names
     QStringList m_pending; ///< start tags that are not written yet, the last of m_open
 };

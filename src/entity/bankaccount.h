@@ -6,11 +6,11 @@
 /** One of the seller's bank accounts. */
 class BankAccount {
 public:
-    int id = -1;  ///< -1: not stored yet
-    QString name; ///< the bank's name as printed
-    QString shortName;
-    QString iban; ///< without blanks
-    QString bic;
+    int id = -1;          ///< -1: not stored yet
+    QString name;         ///< the bank's name as printed
+    QString shortName;    ///< the seller's own, in lists; may be empty
+    QString iban;         ///< without blanks
+    QString bic;          ///< ISO 9362; empty when it was not given
     int rowNumber = 0;    ///< place in the seller's list
     bool visible = true;  ///< printed on invoices
     bool deleted = false; ///< removed, but still referable from old payments

@@ -11,9 +11,11 @@ class Customer : public PropertyMap {
 public:
     int id = -1;     ///< -1: not stored yet
     int number = -1; ///< shown to users; -1: not given
+    /** The name is all that a customer must have; streetName may have several lines. */
     QString name, streetName, postCode, townName, country, contact;
     QString vatNumber;       ///< business ID or VAT number
     QString referenceNumber; ///< the customer's own payment reference, used on every invoice when not empty
+    /** Payment terms, when not empty, go to new invoices; see Invoice::paymentTerms. */
     QString emailAddress, phoneNumber, paymentTerms;
     bool deleted = false; ///< removed, but still referable from old invoices
 

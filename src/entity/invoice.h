@@ -15,28 +15,30 @@ class BankAccount;
  */
 class Invoice : public PropertyMap {
 public:
+    /** Stored numbers. */
     enum Type { invoiceType = 0, interestInvoice = 1, creditNote = 2 };
     /** Types that can be stored and searched; 3 is a document kind stored by other programs. */
     static constexpr int typeCount = 4;
 
-    int id = -1; ///< -1: not stored yet
-    int customerId = -1;
-    int type = invoiceType;
-    int number = 0;
-    QDate date;
-    QString paymentTerms; ///< its first number counts as days
-    QString delivery;
-    QDate deliveryDate;
-    QString buyerRef, sellerRef;
-    int interestOnArrears = 0; ///< hundredths of a percent
-    QDate dueDate;
-    QString referenceNumber; ///< digits, or the RF form
-    int totalAmount = 0;     ///< cents
-    int balance = 0;         ///< the part of the total not yet paid, cents
+    int id = -1;                 ///< -1: not stored yet
+    int customerId = -1;         ///< -1: not given
+    int type = invoiceType;      ///< Type, or another number below typeCount
+    int number = 0;              ///< shown to people, not unique by itself; 0: not given
+    QDate date;                  ///< the invoice date; due dates count from it
+    QString paymentTerms;        ///< its first number counts as days
+    QString delivery;            ///< terms or way of the delivery, a text as printed
+    QDate deliveryDate;          ///< invalid: none; searches then take the invoice date
+    QString buyerRef, sellerRef; ///< the buyer's and the seller's own reference, free texts as printed
+    int interestOnArrears = 0;   ///< hundredths of a percent
+    QDate dueDate;               ///< stored, not computed when read; invalid: none
+    QString referenceNumber;     ///< digits, or the RF form
+    int totalAmount = 0;         ///< cents
+    int balance = 0;             ///< the part of the total not yet paid, cents
 
     void clear() { *this = Invoice(); }
     void copy(Invoice *target) const { *target = *this; }
 
+    /** Weights 7, 3, 1 from the right. @return 0 to 9; digits only are expected, nothing is checked */
     static int calculateReferenceNumberCheckDigit(const QString &digits);
 
     /**

@@ -6,18 +6,22 @@
 /** A row of an invoice: one price, a quantity, a VAT rate and a discount, from which every other figure is computed. */
 class InvoiceItem {
 public:
-    int id = -1; ///< -1: not stored yet
-    int invoiceId = -1;
+    int id = -1;        ///< -1: not stored yet
+    int invoiceId = -1; ///< -1: on none yet
+    /**
+     * As they were when the row was made: a product that changes later leaves rows alone. An empty number is of no
+     * product.
+     */
     QString productNumber;
     QString productName;
-    long long quantity = 0; ///< four decimals
-    QString unitCode;
-    long long amount = 0; ///< unit price, four decimals; vatExcluded tells whether VAT is in it
-    int vatRate = 0;      ///< hundredths of a percent
-    bool vatExcluded = false;
-    int discount = 0;  ///< hundredths of a percent
-    QString text;      ///< a free comment line
-    int rowNumber = 0; ///< place on the invoice
+    long long quantity = 0;   ///< four decimals
+    QString unitCode;         ///< a text as printed, "kpl"
+    long long amount = 0;     ///< unit price, four decimals; vatExcluded tells whether VAT is in it
+    int vatRate = 0;          ///< hundredths of a percent
+    bool vatExcluded = false; ///< the kind of `amount`
+    int discount = 0;         ///< hundredths of a percent
+    QString text;             ///< a free comment line
+    int rowNumber = 0;        ///< place on the invoice
 
     void clear() { *this = InvoiceItem(); }
     void copy(InvoiceItem *target) const { *target = *this; }
@@ -41,6 +45,7 @@ public:
     int discountAmount() const;
 
 private:
+    /** Four decimals, VAT as in `amount`, the discount taken off. The total is of the whole quantity. */
     long long discountedPrice() const;
     long long total() const;
 };

@@ -14,26 +14,27 @@ public:
     struct NumberRange {
         int from, to; ///< both included; -1 is no limit
     };
-    /** How an invoice stands, see the bits of `states`. */
+    /** How an invoice stands, a value of `state`; on day(). */
     enum State { empty, paid, open, overdue, credit };
 
     QVector<NumberRange> numbers; ///< any of them; empty for all
     QVector<int> ids;             ///< any of them besides the numbers
+    /** A balance other than zero, one of zero, and one above zero that was due before day(). */
     bool withBalance = false, withoutBalance = false, isOverdue = false;
-    int state = -1; ///< a State
-    int customerId = -1;
-    int type = -1; ///< Invoice::Type
-    QString reference;
-    QDate dateFrom, dateTo;
-    QDate dueDateFrom, dueDateTo;
+    int state = -1;                         ///< a State
+    int customerId = -1;                    ///< of the database
+    int type = -1;                          ///< Invoice::Type
+    QString reference;                      ///< compared as stored, without blanks
+    QDate dateFrom, dateTo;                 ///< both ends included
+    QDate dueDateFrom, dueDateTo;           ///< both ends included
     QDate deliveryDateFrom, deliveryDateTo; ///< an invoice without a delivery date counts with its own date
     QDate asOf;                             ///< when valid, balances are those of the end of this day
     QDate today;                            ///< what is overdue counts from; must be valid
     QString text;                           ///< in rows, the customer's name and both references, letter case aside
 
-    QString sort; ///< a key of Query::invoiceSortColumns(); empty: by number
-    bool descending = false;
-    int limit = -1; ///< after sorting
+    QString sort;            ///< a key of Query::invoiceSortKeys(); empty: by number
+    bool descending = false; ///< ties by number and id turn too
+    int limit = -1;          ///< after sorting
 
     /** Whether anything but the order and the limit is set. */
     bool restricts() const

@@ -6,9 +6,9 @@
 /** A payment received on an invoice. */
 class Payment {
 public:
-    int id = -1; ///< -1: not stored yet
-    int invoiceId = -1;
-    QDate date;
+    int id = -1;            ///< -1: not stored yet
+    int invoiceId = -1;     ///< -1: on none yet
+    QDate date;             ///< of a bank's file the entry date
     int bankAccountId = -1; ///< -1: no account
     int amount = 0;         ///< cents; negative for a correction
 

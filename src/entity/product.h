@@ -10,12 +10,13 @@ class Product {
 public:
     int id = -1;    ///< -1: not stored yet
     QString number; ///< a text, looked up exactly
+    /** Go to new rows as they are; the unit is a text as printed, "kpl". */
     QString name;
     QString unitCode;
-    long long amount = 0; ///< unit price, four decimals; vatExcluded tells whether VAT is in it
+    long long amount = 0; ///< unit price, four decimals, VAT in it unless vatExcluded; stored ones are read as 32 bits
     int vatRate = 0;      ///< hundredths of a percent
-    bool vatExcluded = false;
-    QString category;
+    bool vatExcluded = false; ///< the kind of `amount`
+    QString category;         ///< free text, empty for none
 
     void clear() { *this = Product(); }
     void copy(Product *target) const { *target = *this; }

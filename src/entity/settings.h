@@ -11,6 +11,7 @@
  */
 class Settings : public PropertyMap {
 public:
+    /** As printed; sellerBusinessId is a Y-tunnus, `0737546-2`. */
     QString sellerName, sellerStreetName, sellerPostCode, sellerTownName, sellerCountry, sellerBusinessId;
     QByteArray sellerLogo; ///< an image file's bytes, empty for none
 

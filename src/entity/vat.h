@@ -39,6 +39,7 @@ public:
     static long long priceVatExcluded(long long price, int vatRate, bool vatExcluded);
     static long long priceVatIncluded(long long price, int vatRate, bool vatExcluded);
 
+    /** A RoundingMode; to be set before the first add(). */
     void setRoundingMode(int mode) { m_roundingMode = mode; }
     int roundingMode() const { return m_roundingMode; }
 
@@ -47,7 +48,7 @@ public:
     /** Forgets the sums; the rounding mode stays. */
     void clear();
 
-    int size() const { return m_amounts.size(); }
+    int size() const { return m_amounts.size(); }            ///< number of rates
     QList<int> vatRates() const { return m_amounts.keys(); } ///< ascending
 
     // Cents, in total or of one rate (0 for a rate never added).
@@ -61,9 +62,9 @@ public:
 private:
     QMap<int, long long> m_amounts;            ///< 64 bits: a list's sums go beyond those of an invoice
     QMap<int, long long> m_amountsVatExcluded; ///< roundPerRow only
-    long long m_totalAmount = 0;
-    long long m_totalAmountVatExcluded = 0; ///< roundPerRow only
-    int m_roundingMode = roundPerRate;
+    long long m_totalAmount = 0;               ///< cents, VAT included
+    long long m_totalAmountVatExcluded = 0;    ///< roundPerRow only
+    int m_roundingMode = roundPerRate;         ///< a RoundingMode
 };
 
 #endif

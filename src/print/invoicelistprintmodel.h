@@ -21,20 +21,19 @@ public:
     /** The first ten are the numbers of the columns. */
     enum SortOrder {
         byNumber,
-        byDate,
-        byDueDate,
-        byDeliveryDate,
-        byCustomerNumber,
+        byDate,           ///< the invoice date
+        byDueDate,        ///< invoices without one come first
+        byDeliveryDate,   ///< the stored date: invoices without one come first
+        byCustomerNumber, ///< of customers that are gone -1
         byCustomerName,
         byTotalVatExcluded,
         byVatAmount,
         byTotalVatIncluded,
-        byBalance,
+        byBalance, ///< as listed: of the criteria's balance date when there is one
         byNumberDescending
     };
     static constexpr int defaultColumnFlags = 0x1ff; ///< all but the balance and the reference number
 
-    /** A line of the list. */
     struct Entry {
         Invoice invoice;        ///< without the fields that no list shows
         int totalVatAmount = 0; ///< cents

@@ -26,20 +26,19 @@ public:
     /** The first ten are the numbers of the columns. */
     enum SortOrder {
         byNumber,
-        byDate,
-        byDueDate,
-        byDeliveryDate,
-        byCustomerNumber,
+        byDate,           ///< the invoice date
+        byDueDate,        ///< invoices without one come first
+        byDeliveryDate,   ///< invoices without one come first
+        byCustomerNumber, ///< of customers that are gone -1
         byCustomerName,
-        byTotalAmount,
+        byTotalAmount, ///< of the invoice
         byPaymentAmount,
         byPaymentDate,
-        byBankAccount,
+        byBankAccount, ///< by the bank's name; payments without an account first
         byNumberDescending
     };
     static constexpr int defaultColumnFlags = 0x3ff; ///< all
 
-    /** A payment and its invoice. */
     struct Entry {
         Invoice invoice; ///< what the journal shows of it; without its type, see invoiceType()
         Payment payment; ///< `amount` in cents

@@ -27,27 +27,28 @@ public:
     const QList<QVariantMap> &entries() const { return m_entries; }
     int lastUsed() const { return m_lastUsed; } ///< -1 for none
     bool contains(int number) const { return indexOf(number) >= 0; }
-    int nextFreeNumber() const;
+    int nextFreeNumber() const; ///< from 1; gaps are filled
 
+    /** In memory until save(); the number of a new entry must be free. */
     void append(const QVariantMap &entry) { m_entries.append(entry); }
-    void remove(int number);
-    void setLastUsed(int number) { m_lastUsed = number; }
+    void remove(int number);                              ///< also no longer the last used one
+    void setLastUsed(int number) { m_lastUsed = number; } ///< need not be in the list; -1 for none
 
     /** Writes the list back, at once. A new file is readable by its owner alone. @return false when it cannot be */
     [[nodiscard]] bool save();
 
-    static int number(const QVariantMap &entry);
-    static bool isPostgreSQL(const QVariantMap &entry);
+    static int number(const QVariantMap &entry);        ///< 0 for none
+    static bool isPostgreSQL(const QVariantMap &entry); ///< the type in any letter case; every other one is SQLite
 
 private:
-    int indexOf(int number) const;
+    int indexOf(int number) const; ///< -1 for none
 
-    void read();
+    void read(); ///< the whole list, once
 
-    std::unique_ptr<QLockFile> m_lock; ///< null while reading only
-    std::unique_ptr<QSettings> m_settings;
-    QList<QVariantMap> m_entries;
-    int m_lastUsed = -1;
+    std::unique_ptr<QLockFile> m_lock;     ///< null while reading only
+    std::unique_ptr<QSettings> m_settings; ///< of the file; also writes it
+    QList<QVariantMap> m_entries;          ///< in the order of the file
+    int m_lastUsed = -1;                   ///< -1 for none
 };
 
 #endif

@@ -41,7 +41,7 @@ public:
     [[nodiscard]] bool ensureOpen();
     void closeDatabase();
 
-    Registry &registry() { return m_registry; }
+    Registry &registry() { return m_registry; }             ///< the caller's
     Database *database() const { return m_database.get(); } ///< null while closed
     Query *query() const { return m_query.get(); }          ///< null while closed
     std::unique_ptr<Query> newQuery() const;                ///< for a search whose rows are read while others are made
@@ -85,29 +85,30 @@ public:
     bool failDatabase();
 
 private:
-    static constexpr int listCount = 5;
+    static constexpr int listCount = 5; ///< of CachedList
 
     struct ListState {
         bool fetched = false;   ///< need not be read again
         long long version = -1; ///< Database::foreignChanges() when it was read; -1: not read or not known
     };
 
+    /** Place in the file's list, -1 for none; a number below 1 is the last used, else the first. */
     int findDatabaseIndex(int number) const;
-    bool openAt(QSettings *settings);
-    bool failWith(const QString &reason);
+    bool openAt(QSettings *settings);     ///< positioned on the keys of a database; closes again on failure
+    bool failWith(const QString &reason); ///< as databaseLocked where the backend says so. @return false
 
-    Registry &m_registry;
-    UseCaseListener &m_listener;
-    std::unique_ptr<Database> m_database;
-    std::unique_ptr<Query> m_query;
-    ListState m_lists[listCount];
-    int m_number = -1;        ///< what the open database was asked for by
-    bool m_isSuspect = false; ///< a statement failed: the connection may be gone
-    bool m_isTrial = false;
-    bool m_isGlance = false;
-    bool m_isCreating = false;
-    bool m_isEnclosed = false;
-    std::optional<int> m_lostNumber; ///< as m_number, of a database whose connection is gone
+    Registry &m_registry;                 ///< not owned
+    UseCaseListener &m_listener;          ///< not owned
+    std::unique_ptr<Database> m_database; ///< null while closed
+    std::unique_ptr<Query> m_query;       ///< of m_database, destroyed before it
+    ListState m_lists[listCount];         ///< by CachedList
+    int m_number = -1;                    ///< what the open database was asked for by
+    bool m_isSuspect = false;             ///< a statement failed: the connection may be gone
+    bool m_isTrial = false;               ///< see setTrial()
+    bool m_isGlance = false;              ///< see setGlance()
+    bool m_isCreating = false;            ///< see setCreating()
+    bool m_isEnclosed = false;            ///< see setEnclosed()
+    std::optional<int> m_lostNumber;      ///< as m_number, of a database whose connection is gone
 };
 
 #endif

@@ -17,24 +17,24 @@ struct UseCaseContext;
 namespace ExportInvoices {
 
 struct Request {
-    InvoiceCriteria criteria;
+    InvoiceCriteria criteria;      ///< none: all invoices; files are written in the order of the numbers
     QString fileName;              ///< a template, see ExportFileName; empty: lasku-$i.pdf, lasku-$i.xml, laskut.csv
     std::optional<QString> script; ///< the name of an invoice layout; else the one that the settings name
-    std::optional<PrintFormat> format; ///< else by the file name
-    QString csvDelimiter = QStringLiteral(",");
-    bool writeSoap = false; ///< Finvoice in its transport envelope
-    int printType = InvoicePrintModel::ownType;
-    bool makesFolders = false; ///< of the file names
-    bool isTrial = false;      ///< tells the files and writes none
+    std::optional<PrintFormat> format;          ///< else by the file name
+    QString csvDelimiter = QStringLiteral(","); ///< one character
+    bool writeSoap = false;                     ///< Finvoice in its transport envelope
+    int printType = InvoicePrintModel::ownType; ///< an InvoicePrintModel::PrintType
+    bool makesFolders = false;                  ///< of the file names
+    bool isTrial = false;                       ///< tells the files and writes none
     /** Called after each document. */
     std::function<void(int done, int total)> progress;
 };
 
 /** A file that was written. */
 struct File {
-    QString fileName;
-    int invoiceId = -1; ///< -1: all invoices
-    int invoiceNumber = 0;
+    QString fileName;      ///< as written; of a trial, as it would be. Empty when errors were found
+    int invoiceId = -1;    ///< -1: all invoices
+    int invoiceNumber = 0; ///< 0: all invoices
     /** What the script threw while it wrote: text and line (Failure::scriptException); empty for none. */
     QStringList exception;
     /** Of an e-invoice: with an error among them nothing was written. */
@@ -43,9 +43,9 @@ struct File {
 
 /** An invoice looked at before it is sent. */
 struct Checked {
-    int invoiceNumber = 0, customerNumber = 0;
-    PrintFormat format = finvoice3Format;
-    QVector<EInvoice::Finding> findings;
+    int invoiceNumber = 0, customerNumber = 0; ///< customerNumber is 0 for a customer that is gone
+    PrintFormat format = finvoice3Format; ///< that was checked against; of finvoiceFormat by the rules of Finvoice 3.0
+    QVector<EInvoice::Finding> findings;  ///< in the order of the rules; empty: nothing to tell
 };
 
 /**

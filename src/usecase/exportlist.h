@@ -15,20 +15,21 @@ struct UseCaseContext;
 /** Writes a list for people, as one PDF or CSV file. */
 namespace ExportList {
 
+/** The invoice list, the registers of customers and products, and the payment journal. */
 enum Kind { invoices = 0, customers = 1, products = 2, payments = 3 };
 
 struct Request {
-    InvoiceCriteria invoices; ///< of the lists of invoices and payments
-    PaymentCriteria payments; ///< of the list of payments
-    int columnFlags = 0;      ///< bit n for the column n of columns(); 0: the usual ones
-    std::optional<int> sort;  ///< the number of a column
-    bool landscape = false;
-    QString fileName;                  ///< empty: the list's own name
-    std::optional<PrintFormat> format; ///< else by the file name
-    QString csvDelimiter = QStringLiteral(",");
-    bool keepsFiles = false; ///< a file of the name is a failure, not overwritten
-    bool makesFolders = false;
-    bool isTrial = false; ///< tells the file and writes none
+    InvoiceCriteria invoices;                   ///< of the lists of invoices and payments
+    PaymentCriteria payments;                   ///< of the list of payments
+    int columnFlags = 0;                        ///< bit n for the column n of columns(); 0: the usual ones
+    std::optional<int> sort;                    ///< the number of a column
+    bool landscape = false;                     ///< of PDF files
+    QString fileName;                           ///< empty: the list's own name
+    std::optional<PrintFormat> format;          ///< else by the file name
+    QString csvDelimiter = QStringLiteral(","); ///< one character
+    bool keepsFiles = false;                    ///< a file of the name is a failure, not overwritten
+    bool makesFolders = false;                  ///< of the file name
+    bool isTrial = false;                       ///< tells the file and writes none
 };
 
 /** The columns that a list can show and be ordered by; the place of a name is its number. */

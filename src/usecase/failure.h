@@ -7,6 +7,7 @@
  */
 namespace Failure {
 
+/** Where a code takes arguments its comment names them, in order; in the second group the heading does. */
 enum Code {
     // The database
     database,               ///< the reason in the database's own words
@@ -36,22 +37,22 @@ enum Code {
     paymentIdUnknown,
 
     // Documents
-    layoutUnknown, ///< name
-    scriptUnreadable,
-    scriptException, ///< text, line
-    scriptWithoutFunction,
-    layoutNameTaken,      ///< name
-    fileUnreadable,       ///< file name, reason
-    paymentFormatUnknown, ///< file name, reason
-    fileUnwritable,       ///< file name, reason
-    fileExists,           ///< file name; never overwritten where this is told
+    layoutUnknown,         ///< name
+    scriptUnreadable,      ///< the file or resource of a script cannot be opened
+    scriptException,       ///< text, line
+    scriptWithoutFunction, ///< the script defines neither print() nor, for XML, write()
+    layoutNameTaken,       ///< name
+    fileUnreadable,        ///< file name, reason
+    paymentFormatUnknown,  ///< file name, reason
+    fileUnwritable,        ///< file name, reason
+    fileExists,            ///< file name; never overwritten where this is told
 
     // Rules
-    invoiceTotalTooLarge, ///< total or balance beyond 32 bits of cents
-    rowTotalTooLarge,     ///< the same of a row
-    invoiceCustomerMissing,
-    noNextInvoiceNumber, ///< the highest number is taken
-    noNextCustomerNumber,
+    invoiceTotalTooLarge,       ///< total or balance beyond 32 bits of cents
+    rowTotalTooLarge,           ///< the same of a row
+    invoiceCustomerMissing,     ///< a new invoice was given no customer
+    noNextInvoiceNumber,        ///< the highest number is taken
+    noNextCustomerNumber,       ///< the same of customers
     paymentTermsBeyondCalendar, ///< the terms
 };
 

@@ -13,6 +13,7 @@ struct UseCaseContext;
  */
 class InvoiceEditor {
 public:
+    /** @param context  not owned */
     explicit InvoiceEditor(UseCaseContext &context) : m_context(context) {}
 
     /** Reads what the effects need and fills a new invoice's defaults: today, terms and interest of the settings. */
@@ -20,10 +21,14 @@ public:
     /** Goes on with a stored invoice. @return false with the failure told */
     [[nodiscard]] bool edit(const Invoice &stored);
 
-    Invoice &invoice() { return m_invoice; }
+    Invoice &invoice() { return m_invoice; } ///< changes made here directly have no effects on other fields
     const Customer &customer() const { return m_customer; } ///< empty while not known
-    bool isStored() const { return m_isStored; }
+    bool isStored() const { return m_isStored; }            ///< edit() was called
 
+    /**
+     * Both make the reference number (the customer's own, else of the template of the settings) and the notice texts
+     * anew.
+     */
     void useCustomer(const Customer &customer);
     void setNumber(int number);
     /** With the due date that the payment terms give. @return false, told, when they lead beyond the calendar */
@@ -37,13 +42,13 @@ public:
     [[nodiscard]] bool save();
 
 private:
-    void updateReferenceNumber();
-    bool checkTerms() const;
+    void updateReferenceNumber(); ///< a customer's own reference as it is, else with a check digit
+    bool checkTerms() const;      ///< @return false, with the failure told, when the due date is beyond the calendar
 
-    UseCaseContext &m_context;
-    Invoice m_invoice;
-    Customer m_customer;
-    bool m_isStored = false;
+    UseCaseContext &m_context; ///< not owned
+    Invoice m_invoice;         ///< -1 as id until it is saved
+    Customer m_customer;       ///< default-constructed while not known
+    bool m_isStored = false;   ///< complete() is for new ones only
 };
 
 #endif

@@ -20,9 +20,9 @@ public:
     /** @param payments  all that are stored for the invoice */
     InvoiceLedger(const Invoice &invoice, const QVector<Payment> &payments);
 
-    int invoiceId() const { return m_invoice.id; }
-    int invoiceNumber() const { return m_invoice.number; }
-    long long balance() const { return m_balance; } ///< with what the file has added, cents
+    int invoiceId() const { return m_invoice.id; }         ///< of the database
+    int invoiceNumber() const { return m_invoice.number; } ///< what people see
+    long long balance() const { return m_balance; }        ///< with what the file has added, cents
 
     /**
      * Whether the bank's entry is among the payments: one of the same date, amount and account (an account that is not
@@ -35,7 +35,7 @@ public:
     bool holdsAmount(int amount) const;
     /** Whether the invoice's balance can take the payment: it is 32 bits of cents. */
     bool canTake(int amount) const;
-    void add(const ImportedPayment &payment);
+    void add(const ImportedPayment &payment); ///< lowers the balance; the date is the bank's entry date
 
     /** The payments that the file added, not stored yet. */
     QVector<Payment *> newPayments();
@@ -52,18 +52,18 @@ public:
 
 private:
     struct Entry {
-        Payment payment;
-        QString archiveId; ///< comparable form behind its format, empty when not known
-        bool isNew = false;
+        Payment payment;      ///< without an id while it is new
+        QString archiveId;    ///< comparable form behind its format, empty when not known
+        bool isNew = false;   ///< added by the file, to be stored
         bool isTaken = false; ///< stands for an entry of this file
     };
 
-    void readArchiveIds();
-    static QString storedId(const ImportedPayment &payment);
+    void readArchiveIds();                                   ///< words whose payment is gone are dropped
+    static QString storedId(const ImportedPayment &payment); ///< `format:archiveId`, empty without an archive id
 
-    Invoice m_invoice;
-    QVector<Entry> m_entries;
-    long long m_balance;
+    Invoice m_invoice;        ///< as it was before the file
+    QVector<Entry> m_entries; ///< stored ones first
+    long long m_balance;      ///< cents; starts from the stored balance
 };
 
 #endif

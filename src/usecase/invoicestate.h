@@ -6,6 +6,7 @@
 /** How an invoice stands. */
 namespace InvoiceState {
 
+/** In the order of InvoiceSelection::State. */
 enum State {
     empty,   ///< nothing to pay and nothing paid
     paid,    ///< no balance

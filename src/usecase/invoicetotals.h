@@ -7,7 +7,7 @@ struct UseCaseContext;
 namespace InvoiceTotals {
 
 enum class Outcome {
-    updated,
+    updated,  ///< saved, with the balance, also when neither has changed
     failed,   ///< the statement failed or there is no such invoice: what was saved before stays saved
     tooLarge, ///< beyond 32 bits of cents: what was saved before must be taken back
 };

@@ -3,8 +3,8 @@
 
 /** What kind of file an export writes. */
 enum PrintFormat {
-    pdfFormat = 0,
-    csvFormat = 1,
+    pdfFormat = 0,       ///< A4, by a script
+    csvFormat = 1,       ///< all invoices, or a list, in one file (RFC 4180)
     finvoiceFormat = 2,  ///< 1.3, by a script
     finvoice3Format = 3, ///< with the marker of EN 16931
     peppolFormat = 4,    ///< UBL 2.1 by Peppol BIS Billing 3

@@ -6,6 +6,7 @@ class DatabaseSession;
 /** Statements whose results belong together see one moment of the database. Ends on destruction. */
 class ReadTransaction {
 public:
+    /** @param session  not owned, open. Within an enclosing transaction nothing begins or ends here */
     explicit ReadTransaction(DatabaseSession &session);
     ~ReadTransaction();
     ReadTransaction(const ReadTransaction &) = delete;
@@ -15,9 +16,9 @@ public:
     bool hasBegun() const { return m_open; }
 
 private:
-    DatabaseSession &m_session;
-    const bool m_isInner; ///< within another one
-    bool m_open;
+    DatabaseSession &m_session; ///< not owned
+    const bool m_isInner;       ///< within another one
+    bool m_open;                ///< to be ended on destruction, unless it is inner
 };
 
 #endif

@@ -39,6 +39,7 @@ namespace RecordEditing {
 /** Marks it removed: old payments and invoices go on referring to it. */
 [[nodiscard]] bool remove(UseCaseContext &context, BankAccount &account);
 [[nodiscard]] bool remove(UseCaseContext &context, Customer &customer);
+/** Deleted: rows hold copies of its fields. */
 [[nodiscard]] bool remove(UseCaseContext &context, const Product &product);
 /** Removes an invoice with its rows and payments. */
 [[nodiscard]] bool removeInvoice(UseCaseContext &context, int id);

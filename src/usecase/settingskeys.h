@@ -18,6 +18,7 @@ bool isKnown(const QString &key);
  */
 bool store(Settings &settings, const QString &key, const QString &value);
 
+/** Also of keys that only other programs know; empty for a setting without a value. */
 QString value(const Settings &settings, const QString &key);
 
 /** All keys that the program knows: the seller's fields, then the properties in ascending order. */

@@ -14,10 +14,10 @@ struct UseCaseContext {
     {
     }
 
-    UseCaseListener &listener;
-    DatabaseSession session;
-    RecordFinder finder;
-    LastSavedIds lastSaved;
+    UseCaseListener &listener; ///< not owned
+    DatabaseSession session;   ///< closed until a command needs the database
+    RecordFinder finder;       ///< of the same session
+    LastSavedIds lastSaved;    ///< of the run, whatever database is open
 };
 
 #endif

@@ -13,6 +13,7 @@ public:
 
     /** Takes the failure that ends the use case. @return false, so that a failing operation ends in one line */
     virtual bool fail(Failure::Code code, const QStringList &arguments = {}) = 0;
+    /** On the way, before the work that it tells of. */
     virtual void note(Notice::Code code, const QStringList &arguments = {}) = 0;
 };
 

@@ -20,7 +20,6 @@ struct CustomerRecord {
     long long openBalance = 0; ///< cents
 };
 
-/** A seller's bank account. */
 struct AccountRecord {
     BankAccount account;
 };

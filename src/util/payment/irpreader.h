@@ -26,7 +26,6 @@ public:
     void read(QIODevice &device);
 
 private:
-    /** Of one kind of record. */
     struct Tally {
         qint64 count = 0;
         qint64 cents = 0; ///< unsigned sum
