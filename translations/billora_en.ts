@@ -2610,6 +2610,10 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
         <translation>The invoice's total is too large</translation>
     </message>
     <message>
+        <source>Tulostuspohja vaati liikaa muistia, aikaa tai sisäkkäisiä kutsuja</source>
+        <translation>The layout asked for too much memory, time or depth of calls</translation>
+    </message>
+    <message>
         <source>Varmuuskopio tehdään vain SQLite-tietokannasta; käytä ohjelmaa pg_dump</source>
         <translation>Backups are made of SQLite databases only; use pg_dump</translation>
     </message>
@@ -2728,6 +2732,18 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>Invalid %1: %2</source>
         <translation>Invalid %1: %2</translation>
+    </message>
+    <message>
+        <source>Tiedoston kirjoittaminen jäi kesken</source>
+        <translation>Writing the file broke off</translation>
+    </message>
+    <message>
+        <source>Tiedostoon ei voi kirjoittaa</source>
+        <translation>The file cannot be written</translation>
+    </message>
+    <message>
+        <source>Tulostuspohjan suoritus kesti yli %1 sekuntia</source>
+        <translation>The layout ran for more than %1 seconds</translation>
     </message>
 </context>
 </TS>

@@ -15,8 +15,19 @@ namespace {
 Language::Code currentCode = Language::finnish;
 
 /** The classes below this program whose texts reach people; those of documents stay in the documents' language. */
-constexpr const char *layers[] = {"billora", "Database",           "DatabaseCheck",     "SQLiteDatabase",
-                                  "Query",   "PostgreSQLDatabase", "PaymentFileReader", "PaymentMatcher"};
+constexpr const char *layers[] = {"billora",
+                                  "Database",
+                                  "DatabaseCheck",
+                                  "SQLiteDatabase",
+                                  "Query",
+                                  "PostgreSQLDatabase",
+                                  "PaymentFileReader",
+                                  "PaymentMatcher",
+                                  "ScriptedDocuments",
+                                  "ScriptRunner",
+                                  "PrintScriptManager",
+                                  "PdfOutput",
+                                  "XmlScriptEnvironment"};
 
 class LayerTranslator : public QTranslator {
 public:

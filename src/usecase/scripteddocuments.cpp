@@ -24,8 +24,10 @@ QByteArray encode(Message message, const QStringList &texts)
     return bytes;
 }
 
-/** Twice what a script may take by its own clock, which does not see what runs inside one call of the library. */
-constexpr int processorSeconds = 2 * ScriptRunner::timeLimitMs / 1000;
+/** What a script may take; a page takes some megabytes. */
+constexpr qint64 memoryLimit = 512LL << 20; // bytes
+/** A little more than it may take by its own clock, which does not see what runs without a loop. */
+constexpr int processorSeconds = ScriptRunner::timeLimitMs / 1000 + 2;
 
 } // namespace
 
@@ -38,6 +40,10 @@ void ScriptedDocuments::work(int from, int to, const Send &send)
 {
     if (!m_host) {
         std::unique_ptr<ScriptHost> host = m_work.makeHost();
+        if (m_source.isStored()) { // the first engine of a process reserves two gigabytes of addresses
+            const QScriptEngine engine;
+            ChildProcess::limitMemory(memoryLimit);
+        }
         ChildProcess::limitTime(processorSeconds);
         const bool isLoaded = m_source.load(*host);
         if (const auto failure = ExportTools::loadFailure(*host, isLoaded)) {
@@ -64,6 +70,7 @@ bool ScriptedDocuments::make(int from, int to, const Done &tell)
 {
     const QStringList died = {tr("Tulostuspohja vaati liikaa muistia, aikaa tai sisäkkäisiä kutsuja"),
                               QString::number(0)};
+    ReplacedFile::prepareFork();
     int next = from;
     while (next < to) {
         const int first = next;

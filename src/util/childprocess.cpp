@@ -44,23 +44,11 @@ void setLimit(__rlimit_resource_t resource, rlim_t wanted)
     }
 }
 
-void limitMemory()
-{
-#ifndef __SANITIZE_ADDRESS__
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly))
-        return;
-    const qint64 pages = file.readLine().split(' ').value(0).toLongLong();
-    setLimit(RLIMIT_AS, rlim_t(pages * ::sysconf(_SC_PAGESIZE) + ChildProcess::memoryLimit));
-#endif
-}
-
 [[noreturn]] void runChild(const std::function<void(const ChildProcess::Send &)> &work, int descriptor)
 {
     isChild = true;
     ::prctl(PR_SET_PDEATHSIG, SIGKILL); // nobody would wait for the rest
     setLimit(RLIMIT_CORE, 0);           // the death is told, it need not be examined
-    limitMemory();
     for (const int signal : {SIGSEGV, SIGBUS, SIGABRT, SIGXCPU})
         std::signal(signal, SIG_DFL);
     std::set_terminate([] { std::abort(); }); // without the library's words on standard error
@@ -122,6 +110,19 @@ bool ChildProcess::run(const std::function<void(const Send &)> &work,
     while (::waitpid(child, &status, 0) < 0 && errno == EINTR) {
     }
     return WIFEXITED(status) && WEXITSTATUS(status) == EXIT_SUCCESS;
+}
+
+void ChildProcess::limitMemory(qint64 bytes)
+{
+#ifndef __SANITIZE_ADDRESS__
+    QFile file(QStringLiteral("/proc/self/statm"));
+    if (!isChild || !file.open(QIODevice::ReadOnly))
+        return;
+    const qint64 pages = file.readLine().split(' ').value(0).toLongLong();
+    setLimit(RLIMIT_AS, rlim_t(pages * ::sysconf(_SC_PAGESIZE) + bytes));
+#else
+    Q_UNUSED(bytes)
+#endif
 }
 
 void ChildProcess::limitTime(int seconds)

@@ -12,9 +12,6 @@
  */
 namespace ChildProcess {
 
-/** What the copy may take beyond what the process has. Not with the address sanitizer, which takes terabytes. */
-constexpr qint64 memoryLimit = 1LL << 30; // bytes
-
 using Send = std::function<void(const QByteArray &message)>;
 
 /**
@@ -26,6 +23,11 @@ using Send = std::function<void(const QByteArray &message)>;
 [[nodiscard]] bool run(const std::function<void(const Send &)> &work,
                        const std::function<void(const QByteArray &)> &receive);
 
+/**
+ * Bounds what the copy, when called in it, may take beyond the address space that it has now: what asks for more gets
+ * none, and mostly dies of it. Not with the address sanitizer, which takes terabytes.
+ */
+void limitMemory(qint64 bytes);
 /** Ends the copy, when called in it, after so many seconds of processor time from now. Waiting costs none. */
 void limitTime(int seconds);
 

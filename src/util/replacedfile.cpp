@@ -68,3 +68,5 @@ void ReplacedFile::removeLeftOvers(const QString &fileName)
     for (const QString &name : folder.entryList({prefix() + QLatin1Char('*')}, QDir::Files | QDir::Hidden))
         folder.remove(name);
 }
+
+void ReplacedFile::prepareFork() { prefix(); }

@@ -27,10 +27,11 @@ public:
 
     /**
      * Removes what a child of this process, made by a fork and dead since, left beside a file. Nothing of this process
-     * may be under way there. To be told apart from other programs' files, the first file must have been made, or
-     * this called, before the fork.
+     * may be under way there, and prepareFork() must have been called before the fork.
      */
     static void removeLeftOvers(const QString &fileName);
+    /** Lets children choose names that this process knows as theirs. */
+    static void prepareFork();
 
 private:
     bool fail(int error); ///< keeps the text of an errno. @return false
