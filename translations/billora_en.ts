@@ -1184,6 +1184,10 @@ Overdue %4 invoices, %5</translation>
         <translation>Rows: row: PRODUCT [QUANTITY] [FIELD=VALUE]… text=words</translation>
     </message>
     <message>
+        <source>yhteys tietokantaan katkesi</source>
+        <translation>the connection to the database was lost</translation>
+    </message>
+    <message>
         <source>toinen ohjelma varaa tietokantaa: %1</source>
         <translation>another program holds the database: %1</translation>
     </message>

@@ -141,7 +141,7 @@ int Batch::runTogether()
         KeyTable::Entry entry;
         bool isFound = false;
         if (!keys.find(m_options.key, entry, isFound))
-            return m_session.fail(Failure::database, {keys.lastError()}), m_session.problem().exitCode();
+            return database.failDatabase(keys.lastError()), m_session.problem().exitCode();
         if (isFound && entry.digest == digest)
             return writeEnd(true, lines.size(), 0, true), 0;
         if (isFound) {
@@ -179,7 +179,7 @@ int Batch::runTogether()
     }
     if (isWhole && !digest.isEmpty() && !m_options.manners.isDryRun) {
         KeyTable keys = database.database()->keys();
-        isWhole = keys.add(m_options.key, {digest, 0}) || m_session.fail(Failure::database, {keys.lastError()});
+        isWhole = keys.add(m_options.key, {digest, 0}) || database.failDatabase(keys.lastError());
     }
     database.setEnclosed(false);
     const bool isCommitted = isWhole && transaction.commit();

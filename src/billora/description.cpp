@@ -12,7 +12,7 @@ namespace {
 
 const RecordTable *const tables[] = {&invoiceTable, &rowTable,     &vatRateTable, &customerTable, &productTable,
                                      &accountTable, &paymentTable, &companyTable, &settingTable,  &layoutTable,
-                                     &findingTable, &importTable,  &fileTable, &checkTable};
+                                     &findingTable, &importTable,  &fileTable,    &checkTable};
 
 bool isWhole(ValueType type)
 {

@@ -19,6 +19,7 @@ struct NoticeRow {
 
 constexpr FailureRow failures[] = {
     {Failure::database, Problem::database, nullptr, nullptr, "%1"},
+    {Failure::connectionLost, Problem::database, nullptr, nullptr, TEXT("yhteys tietokantaan katkesi")},
     {Failure::databaseLocked, Problem::locked, nullptr, nullptr, TEXT("toinen ohjelma varaa tietokantaa: %1")},
     {Failure::databaseNumberTaken, Problem::exists, "number", "billora company list",
      TEXT("yrityksen numero on jo käytössä: %1")},

@@ -85,7 +85,7 @@ bool InvoiceReader::read(Task &task, const InvoiceSelection &selection, bool wit
     bool isWanted = true;
     const auto pass = [&]() {
         if (details && !chunk.isEmpty() && !addDetails(*details, chunk, roundingMode))
-            return task.session.fail(Failure::database, {details->lastError()});
+            return session.failDatabase(details->lastError());
         for (const InvoiceRecord &record : qAsConst(chunk))
             isWanted = isWanted && each(record);
         chunk.clear();

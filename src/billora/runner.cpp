@@ -120,7 +120,7 @@ bool Runner::runKeyed(Task &task, const QString &key)
     bool isFound = false;
     const QString digest = Runner::digest(QLatin1String(task.command.name), task.arguments);
     if (!keys.find(key, entry, isFound))
-        return m_session.fail(Failure::database, {keys.lastError()});
+        return session.failDatabase(keys.lastError());
     session.setEnclosed(true);
     bool done = false;
     if (isFound && entry.digest != digest) {
@@ -142,8 +142,8 @@ bool Runner::runKeyed(Task &task, const QString &key)
             done = true;
         }
     } else {
-        done = task.command.run(task) && (keys.add(key, {digest, lastSaved(task.command)}) ||
-                                          m_session.fail(Failure::database, {keys.lastError()}));
+        done = task.command.run(task) &&
+               (keys.add(key, {digest, lastSaved(task.command)}) || session.failDatabase(keys.lastError()));
     }
     session.setEnclosed(wasEnclosed);
     return done && transaction.commit();

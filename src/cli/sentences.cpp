@@ -24,6 +24,7 @@ constexpr ExitCode badData = ExitCode::badData;
 
 constexpr FailureSentence failures[] = {
     {Failure::database, ExitCode::databaseFailure, "%1"},
+    {Failure::connectionLost, ExitCode::databaseFailure, TEXT("Yhteys tietokantaan katkesi")},
     {Failure::databaseLocked, ExitCode::databaseFailure, "%1"},
     // The exit code stays: a data command without any database answers nothing.
     {Failure::noDatabaseListed, ExitCode::success, TEXT("Tietokanta-asetuksia ei löytynyt")},

@@ -198,12 +198,14 @@ void DatabaseSession::invalidateIfChanged()
     }
 }
 
-bool DatabaseSession::failQuery() { return failWith(m_query->lastError()); }
+bool DatabaseSession::failQuery() { return failDatabase(m_query->lastError()); }
 
-bool DatabaseSession::failDatabase() { return failWith(m_database->lastError()); }
+bool DatabaseSession::failDatabase() { return failDatabase(m_database->lastError()); }
 
-bool DatabaseSession::failWith(const QString &reason)
+bool DatabaseSession::failDatabase(const QString &reason)
 {
     m_isSuspect = true;
+    if (reason.isEmpty()) // the driver has none for what is asked of a connection that it knows to be lost
+        return m_listener.fail(Failure::connectionLost);
     return m_listener.fail(m_database->isLockError(reason) ? Failure::databaseLocked : Failure::database, {reason});
 }

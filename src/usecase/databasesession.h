@@ -83,6 +83,11 @@ public:
     bool failQuery();
     /** Tells the database's error. @return false */
     bool failDatabase();
+    /**
+     * The same with the reason that another query gave; as databaseLocked where the backend says so. The connection is
+     * looked at before the next command and made again if it was lost.
+     */
+    bool failDatabase(const QString &reason);
 
 private:
     static constexpr int listCount = 5; ///< of CachedList
@@ -95,7 +100,6 @@ private:
     /** Place in the file's list, -1 for none; a number below 1 is the last used, else the first. */
     int findDatabaseIndex(int number) const;
     bool openAt(QSettings *settings);     ///< positioned on the keys of a database; closes again on failure
-    bool failWith(const QString &reason); ///< as databaseLocked where the backend says so. @return false
 
     Registry &m_registry;                 ///< not owned
     UseCaseListener &m_listener;          ///< not owned

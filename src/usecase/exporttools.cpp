@@ -31,7 +31,7 @@ bool ExportTools::checkLoaded(UseCaseContext &context, const ScriptHost &host, b
 bool ExportTools::runModel(UseCaseContext &context, PrintModel &model)
 {
     const ReadTransaction transaction(context.session);
-    return transaction.hasBegun() && (model.run() || context.listener.fail(Failure::database, {model.lastError()}));
+    return transaction.hasBegun() && (model.run() || context.session.failDatabase(model.lastError()));
 }
 
 bool ExportTools::failWriting(UseCaseContext &context, const QString &fileName, const QString &reason)

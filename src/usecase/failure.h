@@ -11,6 +11,7 @@ namespace Failure {
 enum Code {
     // The database
     database,               ///< the reason in the database's own words
+    connectionLost, ///< where the backend gives no text of its own
     databaseLocked,         ///< the same: another program holds it
     databaseNumberTaken,    ///< number in the list
     databaseNumberUnknown,  ///< number in the list

@@ -329,11 +329,11 @@ bool check(Task &task)
         if (!transaction.hasBegun())
             return false;
         if (!check.run() || !check.repairTotals())
-            return task.session.fail(Failure::database, {check.lastError()});
+            return task.context().session.failDatabase(check.lastError());
         if (!transaction.commit())
             return false;
     } else if (!check.run()) {
-        return task.session.fail(Failure::database, {check.lastError()});
+        return task.context().session.failDatabase(check.lastError());
     }
     if (!task.answer.beginList(findingTable, task.session))
         return false;
