@@ -51,7 +51,7 @@ long long Vat::substractVat(long long amount, int vatRate)
 long long Vat::roundWithSamePrecision(long long value, long long reference)
 {
     constexpr int maxZeros = Constants::amountFractionDigits - Constants::totalAmountFractionDigits;
-    long long rest = std::llabs(reference);
+    long long rest = reference;
     int zeros = 0;
     while (rest != 0 && rest % 10 == 0 && zeros < maxZeros) {
         rest /= 10;

@@ -215,7 +215,8 @@ void CamtEntry::compareTotal() const
 {
     if (!m_totalKnown || !m_cents)
         return;
-    const qint64 difference = (m_head.direction == credited ? *m_cents : -*m_cents) - m_total;
-    if (difference != 0 && std::llabs(difference) != m_charges)
+    const __int128 cents = m_head.direction == credited ? *m_cents : -*m_cents;
+    const __int128 difference = cents - m_total; // both are what a bank wrote
+    if (difference != 0 && difference != m_charges && -difference != m_charges)
         m_sink.reject(m_head.lineNumber, "amount", m_head.amount.text);
 }

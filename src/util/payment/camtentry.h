@@ -95,8 +95,8 @@ private:
     QDate m_entryDate;                     ///< BookgDt, else ValDt, else the report's time
     std::optional<qint64> m_cents;         ///< unsigned; empty when the amount cannot be read
     int m_count = 0;                       ///< transactions added
-    qint64 m_total = 0;                    ///< of the transactions, cents, signed
-    qint64 m_charges = 0;                  ///< cents
+    __int128 m_total = 0;                  ///< of the transactions, cents, signed
+    __int128 m_charges = 0;                ///< cents
     bool m_totalKnown = true;              ///< false after a transaction whose amount did not read
     bool m_indivisible = false;            ///< transactions without amounts: the entry is reported as a whole
     std::optional<CamtTransaction> m_held; ///< the first when without an amount: it has the entry's if it stays alone

@@ -13,8 +13,10 @@ constexpr FixedField recordLength{"record length", 4, 3};
 constexpr FixedField lengthOfRecord{"length of the record", 4, 3};
 
 // T00
+constexpr FixedField versionNumber{"version number", 7, 3};
 /** 14 digits of the machine form, dates YYMMDD, time HHMM, balances in cents with the sign in a field of its own. */
 constexpr FixedField accountNumber{"account number", 10, 14};
+constexpr FixedField statementNumber{"account statement number", 24, 3};
 constexpr FixedField startingDate{"starting date", 27, 6};
 constexpr FixedField endingDate{"ending date", 33, 6};
 constexpr FixedField creationDate{"creation date", 39, 6};
@@ -29,9 +31,12 @@ constexpr FixedField ibanAndBic{"IBAN", 293, 30}; ///< IBAN (ISO 13616), a blank
 constexpr FixedField transactionNumber{"transaction number", 7, 6};
 constexpr FixedField filingCode{"filing code", 13, 18};
 constexpr FixedField entryDate{"entry date", 31, 6};
+constexpr FixedField valueDate{"value date", 37, 6};
 constexpr FixedField paymentDate{"payment date", 43, 6};
 /** 1 deposit, 2 withdrawal, 3 and 4 their corrections, 9 rejected. */
 constexpr FixedField transactionCode{"transaction code", 49, 1};
+constexpr FixedField definitionCode{"entry definition code", 50, 3};
+constexpr FixedField definitionText{"entry definition text", 53, 35};
 constexpr FixedField sign{"sign", 88, 1};
 constexpr FixedField amount{"amount of transaction", 89, 18};
 constexpr FixedField receiptCode{"receipt code", 107, 1}; ///< "E": an itemisation follows

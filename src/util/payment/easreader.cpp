@@ -112,6 +112,8 @@ void EASReader::readStatement(FixedRecord &record)
     statement.timestamp = record.trimmed(creationDate) + record.trimmed(creationTime);
     statement.currency = record.trimmed(currency);
     m_statement = statement;
+    record.checkNumber(versionNumber);
+    record.checkNumber(statementNumber);
     record.optionalDate(startingDate);
     record.optionalDate(endingDate);
     record.optionalDate(creationDate);
@@ -159,11 +161,20 @@ void EASReader::readTransaction(FixedRecord &record)
     entry.itemised = record.text(receiptCode) == QLatin1String("E");
     if (const FixedField *field = record.failedField())
         rejectDamaged(type, *field, record.text(*field));
-    else
-        addTransaction(entry, code);
+    else if (addTransaction(entry, code))
+        checkRest(record);
 }
 
-void EASReader::addTransaction(EASEntry entry, QChar code)
+void EASReader::checkRest(FixedRecord record)
+{
+    record.optionalDate(valueDate);
+    record.checkNumber(definitionCode);
+    record.checkText(definitionText);
+    if (const FixedField *field = record.failedField())
+        m_belowTransaction.append({m_line, field, record.text(*field)});
+}
+
+bool EASReader::addTransaction(EASEntry entry, QChar code)
 {
     entry.level = std::max(entry.level, 0); // a blank is no digit
     entry.booked = code != QLatin1Char(rejected);
@@ -179,6 +190,7 @@ void EASReader::addTransaction(EASEntry entry, QChar code)
         m_sink.reject(m_line, currency.name, m_statement->currency);
     else
         m_transaction = entry;
+    return m_transaction.has_value();
 }
 
 void EASReader::readAdditionalInformation(FixedRecord &record)

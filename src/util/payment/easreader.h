@@ -51,11 +51,13 @@ private:
     void readPayerName(FixedRecord &record);
     void readCreditTransfer(FixedRecord &record);
     void readBalance(FixedRecord &record);
+    /** Fields that nothing is made of: damage in them is told, and the transaction counts. */
+    void checkRest(FixedRecord record);
     void pass(FixedRecord &) {} ///< nothing to read
 
     void startStatement(); ///< what follows is not of the account above, whether T00 reads or not
     /** One with code 9 changes no balance; a foreign currency is rejected. */
-    void addTransaction(EASEntry entry, QChar transactionCode);
+    bool addTransaction(EASEntry entry, QChar transactionCode); ///< @return whether it is m_transaction now
     void setPayerName(const QString &name); ///< only of deposits, and only a name that is not blank
     void finishTransaction();               ///< hands it to the itemisation, its damage behind it
     void finishEntry();                     ///< also the itemisation ends

@@ -85,6 +85,19 @@ QDate FixedRecord::optionalDate(const FixedField &field, const QDate &missing)
     return isGiven(field) ? date(field) : missing;
 }
 
+void FixedRecord::checkNumber(const FixedField &field)
+{
+    if (!trimmed(field).isEmpty())
+        digits(field);
+}
+
+void FixedRecord::checkText(const FixedField &field)
+{
+    const QString found = text(field);
+    if (std::any_of(found.begin(), found.end(), [](QChar c) { return c.category() == QChar::Other_Control; }))
+        fail(field);
+}
+
 void FixedRecord::checkTime(const FixedField &field)
 {
     if (!isGiven(field))

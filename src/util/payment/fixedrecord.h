@@ -37,6 +37,10 @@ public:
     QDate date(const FixedField &field);
     /** The same, but blanks or zeros only give `missing`. */
     QDate optionalDate(const FixedField &field, const QDate &missing = QDate());
+    /** Digits; blanks are no failure. */
+    void checkNumber(const FixedField &field);
+    /** Anything but control characters, which damage leaves. */
+    void checkText(const FixedField &field);
     /** HHMM; blanks are no failure. */
     void checkTime(const FixedField &field);
     /** Digits without leading zeros, perhaps within an RF reference; blanks or zeros only are no reference. */

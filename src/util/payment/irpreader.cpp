@@ -18,6 +18,8 @@ constexpr FixedField lengthOfRecord{"length of the record", 1, recordLength};
 
 constexpr FixedField creationDate{"date of the file creation", 2, 6};
 constexpr FixedField creationTime{"time of the file creation", 8, 4};
+constexpr FixedField bankGroup{"code of the sending bank group", 12, 2};
+constexpr FixedField serviceCode{"reference payment code of the invoicer", 14, 9};
 constexpr FixedField fileCurrency{"currency code", 23, 1};
 
 constexpr FixedField account{"invoicer's account number", 2, 14};
@@ -27,8 +29,10 @@ constexpr FixedField filingCode{"filing code", 28, 16};
 constexpr FixedField referenceNumber{"reference number", 44, 20};
 constexpr FixedField payerName{"payer's name", 64, 12};
 constexpr FixedField currency{"currency code", 76, 1};
+constexpr FixedField nameSource{"source of name", 77, 1};
 constexpr FixedField amount{"amount", 78, 10};
 constexpr FixedField correctionCode{"correction code", 88, 1};
+constexpr FixedField transferMethod{"method of transfer", 89, 1};
 constexpr FixedField feedbackCode{"feedback code", 90, 1};
 
 constexpr FixedField paymentCount{"number of transactions", 2, 6};
@@ -88,6 +92,8 @@ void IRPReader::readHeader(FixedRecord &record)
     endBatch(record.text(recordCode));
     record.optionalDate(creationDate);
     record.checkTime(creationTime);
+    record.checkText(bankGroup);
+    record.checkText(serviceCode);
     record.code(fileCurrency, "1 ");
     rejectFailed(record);
     m_batch = Batch();
@@ -123,6 +129,7 @@ void IRPReader::readPayment(FixedRecord &record)
     const bool failed = debit && record.code(feedbackCode, " 0123456789").isDigit() && record.isGiven(feedbackCode);
     if (rejectFailed(record))
         return;
+    checkRest(record);
 
     Tally &counted = payment.correction ? m_batch.corrections : m_batch.payments;
     Tally &tally = failed ? m_batch.failedDebits : counted;
@@ -136,6 +143,14 @@ void IRPReader::readPayment(FixedRecord &record)
     }
     payment.amount = static_cast<int>(payment.correction ? -cents : cents);
     m_sink.accept(payment);
+}
+
+void IRPReader::checkRest(FixedRecord record)
+{
+    record.code(nameSource, "AKJ ");
+    record.code(transferMethod, "AKJ ");
+    if (const FixedField *field = record.failedField())
+        reject(*field, record.text(*field));
 }
 
 void IRPReader::readSummary(FixedRecord &record)

@@ -44,6 +44,8 @@ private:
     void readHeader(FixedRecord &record);
     void readPayment(FixedRecord &record);
     void readSummary(FixedRecord &record);
+    /** Fields that nothing is made of: damage in them is told, and the payment counts. */
+    void checkRest(FixedRecord record);
     void endBatch(const QString &found); ///< rejects a batch without record 9. @param found  what stands in its place
     bool rejectFailed(const FixedRecord &record); ///< @return whether a field failed; the batch is then damaged
     void reject(const FixedField &field, const QString &found); ///< at m_line
