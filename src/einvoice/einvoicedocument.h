@@ -46,7 +46,9 @@ struct Line {
     int percent = 0;         ///< BT-138, hundredths; 0: base and percentage are left out
     QString category;        ///< BT-151
     int vatRate = 0;         ///< BT-152, hundredths of a percent
-    int position = 0;        ///< of the row on the invoice, from 1
+    QString reason, reasonCode;
+    bool isCategoryUnused = false; ///< the row has a category of its own, but bears VAT
+    int position = 0;              ///< of the row on the invoice, from 1
 };
 
 /** A row of the VAT breakdown. */
@@ -55,6 +57,7 @@ struct Tax {
     int rate = 0;                ///< BT-119, hundredths of a percent
     long long base = 0, tax = 0; ///< BT-116, BT-117
     QString reason, reasonCode;  ///< BT-120, BT-121
+    QString otherReasonCode;     ///< of a row that has another, for which there is no place
 };
 
 struct Document {

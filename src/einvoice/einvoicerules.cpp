@@ -208,6 +208,14 @@ constexpr Rule rules[] = {
          }
          return breaches; },
      "verottomuuden koodia ei ole: %1", "there is no exemption code %1"},
+    {"REASON", error, Rule::both, "BT-121", "rows.vatReasonCode", [](D d) {
+         Breaches breaches;
+         for (const Tax &tax : d.taxes) {
+             if (!tax.otherReasonCode.isEmpty())
+                 breaches.append(tax.category + QStringLiteral(" (%1, %2)").arg(tax.reasonCode, tax.otherReasonCode));
+         }
+         return breaches; },
+     "yhdellä veroluokalla on kaksi verottomuuden koodia: %1", "one VAT category has two exemption codes: %1"},
     {"BR-CL-14", error, Rule::both, "BT-55", "customer.countryCode", [](D d) { return d.buyer.country.isEmpty() || EInvoiceCodes::contains("iso3166", d.buyer.country) ? Breaches() : Breaches{d.buyer.country}; },
      "maakoodia ei ole: %1", "there is no country code %1"},
     {"BR-CL-25", error, Rule::both, "BT-34-1", "settings.finvoice/senderScheme", [](D d) { return wrongScheme(d.seller, "eas"); }, "verkkolaskuosoitteen lajia ei ole: %1", "there is no address scheme %1"},
@@ -255,6 +263,8 @@ constexpr Rule rules[] = {
      "rivin %1 yksikköä ei tunneta: käytetään C62", "the unit of row %1 is not known: C62 is used"},
     {"UNIT-T", warning, Rule::both, "BT-130", "rows.unit", [](D d) { return lines(d, [](const Line &l) { return l.unitText.compare(QLatin1String("t"), Qt::CaseInsensitive) == 0; }); },
      "rivin %1 yksikkö t tulkittiin tunniksi", "the unit t of row %1 was taken for an hour"},
+    {"CATEGORY", warning, Rule::both, "BT-151", "rows.vatCategory", [](D d) { return lines(d, [](const Line &l) { return l.isCategoryUnused; }); },
+     "rivin %1 veroluokkaa ei käytetä: sen vero ei ole 0 %", "the VAT category of row %1 is not used: the row is not at 0 %"},
     {"CREDIT", warning, Rule::both, "BT-25", "creditedInvoice", [](D d) { return when(d.kind == Document::creditNote && d.precedingNumber.isEmpty()); },
      "hyvityslasku ei viittaa alkuperäiseen laskuun", "the credit note does not refer to its original"},
     {"DUE-DATE", warning, Rule::finvoice, "BT-9", "dueDate", [](D d) { return when(!d.dueDate.isValid()); }, "eräpäivä puuttuu: käytetään laskun päivää", "the due date is missing: the invoice date is used"},

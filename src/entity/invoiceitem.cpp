@@ -3,12 +3,20 @@
 #include "constants.h"
 #include "vat.h"
 
+#include <limits>
+
 namespace {
 
 constexpr long long wholePercentage = static_cast<long long>(Constants::percentageScale) * Constants::percentageScale;
 constexpr int amountToTotalDigits = Constants::amountFractionDigits - Constants::totalAmountFractionDigits;
 
 } // namespace
+
+bool InvoiceItem::fits() const
+{
+    const __int128 product = static_cast<__int128>(quantity) * amount;
+    return product <= std::numeric_limits<long long>::max() && product >= std::numeric_limits<long long>::min();
+}
 
 long long InvoiceItem::amountVatExcluded() const { return Vat::priceVatExcluded(amount, vatRate, vatExcluded); }
 
