@@ -28,9 +28,11 @@ bool saveListed(UseCaseContext &context, Record &record, bool (Query::*save)(Rec
     return true;
 }
 
-/** A row's total must fit its 32 bits of cents. */
+/** A row's total must fit its 32 bits of cents, and quantity times price 64, which a large discount may hide. */
 bool checkTotal(UseCaseContext &context, const InvoiceItem &row)
 {
+    if (!row.fits())
+        return context.listener.fail(Failure::rowTotalTooLarge);
     constexpr long long most = std::numeric_limits<int>::max();
     const long long total = row.totalAmountVatIncluded();
     return (total <= most && total >= -most) || context.listener.fail(Failure::rowTotalTooLarge);
