@@ -342,7 +342,7 @@ EInvoice::Document EInvoice::build(const Source &source)
         }
         if (tax.category == QLatin1String("K") && !document.hasDeliverTo) {
             document.deliverTo = document.buyer;
-            document.hasDeliverTo = true;
+            document.hasDeliverTo = document.isDeliverToAssumed = true;
         }
     }
     return document;

@@ -76,6 +76,7 @@ struct Document {
     Party seller, buyer;
     Party deliverTo; ///< BT-70 to BT-80; empty for none
     bool hasDeliverTo = false;
+    bool isDeliverToAssumed = false; ///< the buyer's address, since nothing was said
     QVector<Account> accounts;
     QVector<Line> lines;
     QVector<Tax> taxes;

@@ -20,8 +20,8 @@ struct Finding {
 QVector<Finding> check(const Document &document, Format format);
 bool hasError(const QVector<Finding> &findings);
 
-/** The ids of all rules, each once. */
-QStringList ruleIds();
+/** All rules as `BR-11@customer.country`, in the order of the table. */
+QStringList rules();
 
 } // namespace EInvoice
 

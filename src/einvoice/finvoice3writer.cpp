@@ -36,8 +36,11 @@ void address(XmlText &xml, const Party &party, const char *group, const char *st
              const char *postCode)
 {
     xml.open(group);
-    for (int i = 0; i < party.streets.size() && i < mostStreets; ++i)
-        xml.leaf(street, party.streets.at(i).left(streetLength));
+    int count = 0;
+    for (const QString &line : party.streets) {
+        if (line.size() > 1 && ++count <= mostStreets) // the format takes two characters or none
+            xml.leaf(street, line.left(streetLength));
+    }
     xml.leaf(town, party.town.left(streetLength));
     xml.leaf(postCode, party.postCode.left(streetLength));
     xml.leaf("CountryCode", party.country);
@@ -71,7 +74,8 @@ void seller(XmlText &xml, const Document &d)
     xml.open("SellerPartyDetails");
     xml.leaf("SellerPartyIdentifier", p.businessId);
     xml.leaf("SellerOrganisationName", p.name.left(nameLength));
-    xml.leaf("SellerOrganisationTradingName", p.tradeName.left(nameLength));
+    if (p.tradeName.size() > 1)
+        xml.leaf("SellerOrganisationTradingName", p.tradeName.left(nameLength));
     xml.leaf("SellerOrganisationTaxCode", p.vatNumber);
     address(xml, p, "SellerPostalAddressDetails", "SellerStreetName", "SellerTownName", "SellerPostCodeIdentifier");
     xml.close();
@@ -114,10 +118,10 @@ void buyer(XmlText &xml, const Document &d)
     xml.leaf("BuyerEmailaddressIdentifier", p.email.left(70));
     xml.close();
     const Party &to = d.deliverTo;
-    const bool isWhole = !to.streets.isEmpty() && !to.town.isEmpty() && !to.postCode.isEmpty();
+    const bool isWhole = to.streets.value(0).size() > 1 && to.town.size() > 1 && to.postCode.size() > 1;
     if (d.hasDeliverTo && isWhole) { // the group is all or nothing
         xml.open("DeliveryPartyDetails");
-        xml.leaf("DeliveryOrganisationName", (to.name.isEmpty() ? p.name : to.name).left(nameLength));
+        xml.leaf("DeliveryOrganisationName", (to.name.size() < 2 ? p.name : to.name).left(streetLength));
         address(xml, to, "DeliveryPostalAddressDetails", "DeliveryStreetName", "DeliveryTownName",
                 "DeliveryPostCodeIdentifier");
         xml.close();
