@@ -2,6 +2,7 @@
 
 #include "bankaccount.h"
 #include "customer.h"
+#include "decimaltext.h"
 #include "einvoicecodes.h"
 #include "einvoicesums.h"
 #include "invoice.h"
@@ -314,6 +315,10 @@ EInvoice::Document EInvoice::build(const Source &source)
     const QString terms = clean(invoice.paymentTerms);
     if (!terms.isEmpty())
         document.terms.append(terms);
+    document.interestOnArrears = invoice.interestOnArrears;
+    if (document.interestOnArrears > 0)
+        document.terms.append(QStringLiteral("Viivästyskorko %1 %")
+                                  .arg(EInvoice::decimalText(document.interestOnArrears, 2, 0, QLatin1Char(','))));
     const QString complaints = clean(settings.property(QStringLiteral("settings/periodForComplaints")).toString());
     if (!complaints.isEmpty())
         document.terms.append(QStringLiteral("Huomautusaika ") + complaints);
@@ -322,6 +327,7 @@ EInvoice::Document EInvoice::build(const Source &source)
         if (!note.isEmpty())
             document.notes.append(note);
     }
+    document.buyerNumber = source.customer.number;
     document.seller = sellerOf(settings);
     document.buyer = buyerOf(source);
     setDeliverTo(source, document);

@@ -69,6 +69,8 @@ struct Document {
     QDate date, dueDate, deliveryDate, periodStart, periodEnd;
     QString buyerReference, project, contract, order, accounting; ///< BT-10, 11, 12, 13, 19
     QStringList terms, notes;                                     ///< BT-20, BT-22
+    int interestOnArrears = 0;                                    ///< hundredths of a percent; in terms too
+    int buyerNumber = -1;                                         ///< BT-46, the seller's own number of the buyer
     QString precedingNumber;                                      ///< BT-25
     QDate precedingDate;                                          ///< BT-26
     QString reference;                                            ///< BT-83, without blanks

@@ -24,12 +24,14 @@ QString quoted(const char *name, const QString &value)
 }
 QString lineUp(QString text) { return text.replace(QLatin1Char('\n'), QLatin1Char(' ')); }
 
-/** A text in pieces of a length, each an element of its own. */
+/** The lines of a text in pieces of a length, each an element of its own. */
 void texts(XmlText &xml, const char *name, const QString &text, int length, int most = 1000)
 {
-    const QString line = lineUp(text);
-    for (int i = 0, count = 0; i < line.size() && count < most; i += length, ++count)
-        xml.leaf(name, line.mid(i, length).trimmed());
+    int count = 0;
+    for (const QString &line : text.split(QLatin1Char('\n'))) {
+        for (int i = 0; i < line.size() && count < most; i += length, ++count)
+            xml.leaf(name, line.mid(i, length).trimmed());
+    }
 }
 
 void address(XmlText &xml, const Party &party, const char *group, const char *street, const char *town,
@@ -148,6 +150,7 @@ void details(XmlText &xml, const Document &d, int sign)
     xml.leaf("InvoicingPeriodStartDate", date(d.periodStart), dateFormat);
     xml.leaf("InvoicingPeriodEndDate", date(d.periodEnd), dateFormat);
     xml.leaf("SellerReferenceIdentifier", d.sellerReference.left(70));
+    xml.leaf("SellersBuyerIdentifier", d.buyerNumber > 0 ? QString::number(d.buyerNumber) : QString());
     xml.leaf("OrderIdentifier", d.order);
     xml.leaf("AgreementIdentifier", d.contract);
     xml.leaf("BuyerReferenceIdentifier", d.buyerReference);
@@ -176,9 +179,14 @@ void details(XmlText &xml, const Document &d, int sign)
     for (const QString &note : d.notes)
         texts(xml, "InvoiceFreeText", note, freeTextLength);
     xml.open("PaymentTermsDetails");
-    for (int i = 0; i < d.terms.size() && i < 2; ++i)
-        xml.leaf("PaymentTermsFreeText", lineUp(d.terms.at(i)).left(70));
+    xml.leaf("PaymentTermsFreeText", lineUp(d.terms.value(0)).left(70)); // two of them at most
+    xml.leaf("PaymentTermsFreeText", lineUp(QStringList(d.terms.mid(1)).join(QLatin1String(". "))).left(70));
     xml.leaf("InvoiceDueDate", date(dueDate(d)), dateFormat);
+    if (d.interestOnArrears > 0) {
+        xml.open("PaymentOverDueFineDetails");
+        xml.leaf("PaymentOverDueFinePercent", percent(d.interestOnArrears));
+        xml.close();
+    }
     xml.close();
     xml.close();
 }
