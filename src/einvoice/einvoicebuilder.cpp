@@ -180,12 +180,12 @@ QVector<Exemption> exemptionsOf(const Source &source, int rowId)
 /** The category is what was said first; its reason too, but not one that was said of another category. */
 void setExemption(const Source &source, const InvoiceItem &item, Line &line)
 {
-    const QVector<Exemption> said = exemptionsOf(source, item.id);
     if (item.vatRate > 0) {
         line.category = QStringLiteral("S");
-        line.isCategoryUnused = !said.first().category.isEmpty();
+        line.isCategoryUnused = !RowTerms::value(source.invoice, item.id, "bt151").isEmpty();
         return;
     }
+    const QVector<Exemption> said = exemptionsOf(source, item.id);
     for (const Exemption &one : said) {
         if (line.category.isEmpty())
             line.category = one.category;

@@ -86,6 +86,24 @@ public:
 
     const QString &name() const { return m_name; }
 
+    /** Writes the file at once: one that was just made has no earlier content to keep until the new one is whole. */
+    bool write(const QByteArray &bytes, QString &error)
+    {
+        if (!m_isMade) {
+            OutputFile output(m_name);
+            const bool isWritten = output.open() && output.device()->write(bytes) == bytes.size() && output.commit();
+            error = output.errorString();
+            return isWritten;
+        }
+        QFile file(m_name);
+        const bool isWritten = file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.flush();
+        if (!isWritten) {
+            error = file.errorString();
+            file.remove();
+        }
+        return isWritten;
+    }
+
 private:
     QString m_name;
     bool m_isMade = false;
@@ -236,7 +254,7 @@ bool writeEInvoices(UseCaseContext &context, const Request &request, PrintFormat
         if (!request.isTrial) {
             if (request.makesFolders)
                 QDir().mkpath(QFileInfo(file.fileName).path());
-            const ReservedName reserved(form, invoice, customer, request.printType);
+            ReservedName reserved(form, invoice, customer, request.printType);
             file.fileName = reserved.name();
             if (own == finvoiceFormat) {
                 single.clear();
@@ -251,15 +269,15 @@ bool writeEInvoices(UseCaseContext &context, const Request &request, PrintFormat
                 files.append(file);
                 continue;
             }
-            OutputFile output(file.fileName);
             QByteArray bytes = own == peppolFormat ? EInvoice::writeUbl(document) : EInvoice::writeFinvoice3(document);
             if (own == finvoice3Format && request.writeSoap) {
                 single.clear();
                 single.copyInvoice(&all, i);
                 bytes.prepend(SoapEnvelope::create(&single));
             }
-            if (!output.open() || output.device()->write(bytes) != bytes.size() || !output.commit())
-                return ExportTools::failWriting(context, file.fileName, output.errorString());
+            QString error;
+            if (!reserved.write(bytes, error))
+                return ExportTools::failWriting(context, file.fileName, error);
         }
         files.append(file);
         if (request.progress)
