@@ -10,6 +10,7 @@ namespace {
 using namespace EInvoice;
 
 constexpr int nameLength = 70, streetLength = 35, mostStreets = 3, freeTextLength = 512, unitLength = 14;
+constexpr int termsLength = 70;
 constexpr int mostPriceDecimals = 5;
 
 const QString currency = QStringLiteral("AmountCurrencyIdentifier=\"EUR\"");
@@ -178,9 +179,13 @@ void details(XmlText &xml, const Document &d, int sign)
         texts(xml, "InvoiceFreeText", d.buyer.name, freeTextLength);
     for (const QString &note : d.notes)
         texts(xml, "InvoiceFreeText", note, freeTextLength);
+    const QString stop = QStringLiteral(". ");
+    const QString terms[] = {lineUp(d.terms.value(0)), lineUp(QStringList(d.terms.mid(1)).join(stop))}; // two at most
+    if (terms[0].size() > termsLength || terms[1].size() > termsLength)
+        texts(xml, "InvoiceFreeText", lineUp(d.terms.join(stop)), freeTextLength);
     xml.open("PaymentTermsDetails");
-    xml.leaf("PaymentTermsFreeText", lineUp(d.terms.value(0)).left(70)); // two of them at most
-    xml.leaf("PaymentTermsFreeText", lineUp(QStringList(d.terms.mid(1)).join(QLatin1String(". "))).left(70));
+    for (const QString &text : terms)
+        xml.leaf("PaymentTermsFreeText", text.left(termsLength));
     xml.leaf("InvoiceDueDate", date(dueDate(d)), dateFormat);
     if (d.interestOnArrears > 0) {
         xml.open("PaymentOverDueFineDetails");
