@@ -391,8 +391,9 @@ QVector<EInvoice::Finding> EInvoice::check(const Document &document, Format form
                 const QString text = QString::fromUtf8(sentence);
                 return text.contains(QLatin1String("%1")) ? text.arg(value) : text;
             };
-            findings.append(
-                {rule.id, rule.severity, rule.term, rule.field, filled(rule.finnish), filled(rule.english)});
+            const bool isOfRow = QLatin1String(rule.field).startsWith(QLatin1String("rows."));
+            findings.append({rule.id, rule.severity, rule.term, rule.field, isOfRow ? value.toInt() : 0,
+                             filled(rule.finnish), filled(rule.english)});
         }
         if (document.kind == Document::notSent && !findings.isEmpty())
             break; // nothing else counts

@@ -13,6 +13,7 @@ struct Finding {
     Severity severity;
     const char *term;  ///< "BT-55"
     const char *field; ///< of the program's records, "customer.country"; empty for none
+    int row;           ///< position of the row that it is about, 0 for none
     QString finnish, english;
 };
 

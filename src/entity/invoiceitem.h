@@ -27,7 +27,7 @@ public:
     void clear() { *this = InvoiceItem(); }
     void copy(InvoiceItem *target) const { *target = *this; }
 
-    /** Whether quantity times price fits 64 bits, as a row that is stored must. */
+    /** Whether quantity times price fits 64 bits, and what follows from it does, as a row that is stored must. */
     bool fits() const;
 
     // Unit prices before the discount, four decimals.

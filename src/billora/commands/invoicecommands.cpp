@@ -486,6 +486,7 @@ QString mendingOf(const ExportInvoices::Checked &invoice, const EInvoice::Findin
         const bool isCustomers = record == QLatin1String("customer");
         return QString::fromUtf8(mending.command)
             .replace(QLatin1String("%1"), QString::number(isCustomers ? invoice.customerNumber : invoice.invoiceNumber))
+            .replace(QLatin1String("ROW"), finding.row > 0 ? QString::number(finding.row) : QStringLiteral("ROW"))
             .replace(QLatin1String("%2"),
                      record == QLatin1String("settings") ? field : CommandTable::hyphenated(field));
     }
