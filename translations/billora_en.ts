@@ -1920,6 +1920,10 @@ Overdue %4 invoices, %5</translation>
         <translation>free text below the row</translation>
     </message>
     <message>
+        <source>rivin oma veroluokka, jos vero on 0 %: AE K G E O Z</source>
+        <translation>the row's own VAT category, when its VAT is 0 %: AE K G E O Z</translation>
+    </message>
+    <message>
         <source>Päivät ja ajanjaksot</source>
         <translation>Dates and periods</translation>
     </message>
@@ -2508,6 +2512,10 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>teksti, jonka jokin kenttä sisältää; kirjainkoolla ei ole väliä</source>
         <translation>text that a field contains, letter case aside</translation>
+    </message>
+    <message>
+        <source>koodia ei ole luettelossa</source>
+        <translation>there is no such code in the list</translation>
     </message>
     <message>
         <source>käännetty verovelvollisuus</source>

@@ -2,6 +2,7 @@
 
 #include "query.h"
 #include "registry.h"
+#include "rowterms.h"
 #include "settings.h"
 #include "task.h"
 #include "vat.h"
@@ -22,6 +23,7 @@ void addSums(InvoiceRecord &record, int roundingMode)
     vat.setRoundingMode(roundingMode);
     for (int i = 0; i < record.rows.size(); ++i) {
         RowRecord &row = record.rows[i];
+        RowTerms::read(record.invoice, row.item);
         row.position = i + 1;
         row.net = row.item.totalAmountVatExcluded();
         row.total = row.item.totalAmountVatIncluded();

@@ -144,7 +144,8 @@ QStringList InvoiceWriter::rowLines(const InvoiceRecord &record)
         const QString product = plain("product");
         QString line = quoted(product.isEmpty() ? QStringLiteral("-") : product) + QLatin1Char(' ') + plain("quantity");
         const char *price = row.item.vatExcluded ? "price" : "priceWithVat";
-        for (const char *name : {"name", "unit", price, "vatRate", "discount"}) {
+        for (const char *name :
+             {"name", "unit", price, "vatRate", "discount", "vatCategory", "vatReason", "vatReasonCode"}) {
             const QString value = plain(name);
             if (!value.isEmpty() && !(QLatin1String(name) == QLatin1String("discount") && value == QLatin1String("0")))
                 line += QLatin1Char(' ') + QLatin1String(name) + QLatin1Char('=') + quoted(value);

@@ -2,13 +2,13 @@
 
 #include "bankaccount.h"
 #include "customer.h"
+#include "decimaltext.h"
 #include "einvoicecodes.h"
 #include "einvoicesums.h"
 #include "invoice.h"
 #include "invoiceitem.h"
+#include "rowterms.h"
 #include "settings.h"
-
-#include <limits>
 
 namespace {
 
@@ -41,15 +41,13 @@ QStringList linesOf(const QString &text)
     return lines;
 }
 
-/** A term of the invoice, else of the customer, else a setting. */
-QString term(const Source &source, const char *key, const char *setting = nullptr)
+/** A term of the invoice, else of the customer. */
+QString term(const Source &source, const char *key)
 {
     const QString name = QLatin1String(key);
     QString value = source.invoice.property(name).toString();
     if (value.isEmpty())
         value = source.customer.property(name).toString();
-    if (value.isEmpty() && setting)
-        value = source.settings.property(QLatin1String(setting)).toString();
     return clean(value);
 }
 
@@ -155,21 +153,52 @@ bool isTextRow(const InvoiceItem &item)
            !item.text.trimmed().isEmpty();
 }
 
-/** Whether quantity times price fits 64 bits, as the program computes rows. */
-bool fits(const InvoiceItem &item)
+/** Why there is no VAT, as it was said in one place. */
+struct Exemption {
+    QString category, reason, reasonCode;
+};
+
+/** What the row, its invoice, the customer and the company say, in this order. */
+QVector<Exemption> exemptionsOf(const Source &source, int rowId)
 {
-    const __int128 product = static_cast<__int128>(item.quantity) * item.amount;
-    return product <= std::numeric_limits<long long>::max() && product >= std::numeric_limits<long long>::min();
+    QVector<Exemption> said;
+    const auto add = [&said](const QString &category, const QString &reason, const QString &reasonCode) {
+        said.append({clean(category).toUpper(), clean(reason), clean(reasonCode)});
+    };
+    const auto own = [&](const char *key) { return RowTerms::value(source.invoice, rowId, key); };
+    add(own("bt151"), own("bt120"), own("bt121"));
+    for (const PropertyMap *record :
+         {static_cast<const PropertyMap *>(&source.invoice), static_cast<const PropertyMap *>(&source.customer)}) {
+        const auto value = [record](const char *key) { return record->property(QLatin1String(key)).toString(); };
+        add(value("bt151"), value("bt120"), value("bt121"));
+    }
+    const auto value = [&source](const char *key) { return source.settings.property(QLatin1String(key)).toString(); };
+    add(value("einvoice/zeroVatCategory"), value("einvoice/zeroVatReason"), value("einvoice/zeroVatReasonCode"));
+    return said;
 }
 
-/** The category of a row at 0 %: its own, else the invoice's, the customer's, the company's. */
-QString categoryOf(const Source &source, const InvoiceItem &item)
+/** The category is what was said first; its reason too, but not one that was said of another category. */
+void setExemption(const Source &source, const InvoiceItem &item, Line &line)
 {
-    if (item.vatRate > 0)
-        return QStringLiteral("S");
-    const QString own = term(source, ("bt151." + QByteArray::number(item.rowNumber)).constData());
-    const QString category = own.isEmpty() ? term(source, "bt151", "einvoice/zeroVatCategory") : own;
-    return category.toUpper();
+    if (item.vatRate > 0) {
+        line.category = QStringLiteral("S");
+        line.isCategoryUnused = !RowTerms::value(source.invoice, item.id, "bt151").isEmpty();
+        return;
+    }
+    const QVector<Exemption> said = exemptionsOf(source, item.id);
+    for (const Exemption &one : said) {
+        if (line.category.isEmpty())
+            line.category = one.category;
+    }
+    if (line.category == QLatin1String("S") || line.category == QLatin1String("Z"))
+        return; // may have no reason
+    for (const Exemption &one : said) {
+        const bool isOfIt = one.category.isEmpty() || one.category == line.category;
+        if (isOfIt && line.reason.isEmpty() && line.reasonCode.isEmpty()) {
+            line.reason = one.reason;
+            line.reasonCode = one.reasonCode;
+        }
+    }
 }
 
 constexpr struct {
@@ -181,14 +210,22 @@ constexpr struct {
     {"O", "VATEX-EU-O", "Ei arvonlisäveroa"},
 };
 
-/** Why there is no VAT: forbidden for S and Z, what was said for others, else the category's own words. */
-void setReasons(const Source &source, Document &document)
+/** Why there is no VAT: what the rows of the category say, else the category's own words. */
+void setReasons(Document &document)
 {
     for (EInvoice::Tax &tax : document.taxes) {
-        if (tax.category == QLatin1String("S") || tax.category == QLatin1String("Z"))
-            continue;
-        tax.reason = term(source, "bt120", "einvoice/zeroVatReason");
-        tax.reasonCode = term(source, "bt121", "einvoice/zeroVatReasonCode");
+        QStringList reasons;
+        for (const Line &line : qAsConst(document.lines)) {
+            if (line.category != tax.category || line.vatRate != tax.rate)
+                continue;
+            if (!line.reason.isEmpty() && !reasons.contains(line.reason))
+                reasons.append(line.reason);
+            if (!line.reasonCode.isEmpty() && tax.reasonCode.isEmpty())
+                tax.reasonCode = line.reasonCode;
+            else if (!line.reasonCode.isEmpty() && line.reasonCode != tax.reasonCode)
+                tax.otherReasonCode = line.reasonCode;
+        }
+        tax.reason = reasons.join(QLatin1String("; "));
         for (const auto &row : defaultReasons) {
             const bool isGiven = !tax.reason.isEmpty() || !tax.reasonCode.isEmpty();
             if (tax.category == QLatin1String(row.category) && !isGiven) {
@@ -206,7 +243,7 @@ void addLines(const Source &source, Document &document)
     int position = 0;
     for (const InvoiceItem &item : source.items) {
         ++position;
-        if (!fits(item) && document.overflowRow == 0)
+        if (!item.fits() && document.overflowRow == 0)
             document.overflowRow = position;
         if (isTextRow(item)) {
             if (document.lines.isEmpty()) {
@@ -230,7 +267,7 @@ void addLines(const Source &source, Document &document)
         line.unitText = clean(item.unitCode);
         line.unitCode = EInvoiceCodes::unit(line.unitText, ownUnits);
         line.vatRate = item.vatRate;
-        line.category = categoryOf(source, item);
+        setExemption(source, item, line);
         document.lines.append(line);
         rows.append(&item);
     }
@@ -278,6 +315,10 @@ EInvoice::Document EInvoice::build(const Source &source)
     const QString terms = clean(invoice.paymentTerms);
     if (!terms.isEmpty())
         document.terms.append(terms);
+    document.interestOnArrears = invoice.interestOnArrears;
+    if (document.interestOnArrears > 0)
+        document.terms.append(QStringLiteral("Viivästyskorko %1 %")
+                                  .arg(EInvoice::decimalText(document.interestOnArrears, 2, 0, QLatin1Char(','))));
     const QString complaints = clean(settings.property(QStringLiteral("settings/periodForComplaints")).toString());
     if (!complaints.isEmpty())
         document.terms.append(QStringLiteral("Huomautusaika ") + complaints);
@@ -286,6 +327,7 @@ EInvoice::Document EInvoice::build(const Source &source)
         if (!note.isEmpty())
             document.notes.append(note);
     }
+    document.buyerNumber = source.customer.number;
     document.seller = sellerOf(settings);
     document.buyer = buyerOf(source);
     setDeliverTo(source, document);
@@ -298,7 +340,7 @@ EInvoice::Document EInvoice::build(const Source &source)
             document.accounts.append({iban, BankAccount::normalizedCode(account.bic), accountName});
     }
     addLines(source, document);
-    setReasons(source, document);
+    setReasons(document);
     for (const Tax &tax : qAsConst(document.taxes)) {
         if (tax.category == QLatin1String("O")) { // then no VAT number may be on the invoice
             document.seller.vatNumber.clear();
@@ -306,7 +348,7 @@ EInvoice::Document EInvoice::build(const Source &source)
         }
         if (tax.category == QLatin1String("K") && !document.hasDeliverTo) {
             document.deliverTo = document.buyer;
-            document.hasDeliverTo = true;
+            document.hasDeliverTo = document.isDeliverToAssumed = true;
         }
     }
     return document;

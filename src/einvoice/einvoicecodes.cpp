@@ -88,7 +88,9 @@ QString EInvoiceCodes::unit(const QString &text, const QString &own)
     if (text.trimmed().isEmpty())
         return QStringLiteral("C62");
     const QString wanted = foldedUnit(text);
-    for (const QString &line : own.split(QRegularExpression(QStringLiteral("[\\n,;]")), Qt::SkipEmptyParts)) {
+    static const QRegularExpression ends(QStringLiteral("[\\n,;]"));
+    const QStringList lines = own.isEmpty() ? QStringList() : own.split(ends, Qt::SkipEmptyParts);
+    for (const QString &line : lines) {
         if (foldedUnit(line.section(QLatin1Char('='), 0, 0)) == wanted)
             return line.section(QLatin1Char('='), 1).trimmed();
     }

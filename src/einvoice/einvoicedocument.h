@@ -50,6 +50,8 @@ struct Line {
     int percent = 0;               ///< BT-138, hundredths; 0: base and percentage are left out
     QString category;              ///< BT-151
     int vatRate = 0;               ///< BT-152, hundredths of a percent
+    QString reason, reasonCode;    ///< BT-120 and BT-121 of a row of its own
+    bool isCategoryUnused = false; ///< the row has a category of its own, but bears VAT
     int position = 0;              ///< of the row on the invoice, from 1
 };
 
@@ -59,6 +61,7 @@ struct Tax {
     int rate = 0;                ///< BT-119, hundredths of a percent
     long long base = 0, tax = 0; ///< BT-116, BT-117
     QString reason, reasonCode;  ///< BT-120, BT-121
+    QString otherReasonCode;     ///< of a row that has another, for which there is no place
 };
 
 struct Document {
@@ -72,6 +75,8 @@ struct Document {
     QDate date, dueDate, deliveryDate, periodStart, periodEnd;
     QString buyerReference, project, contract, order, accounting; ///< BT-10, 11, 12, 13, 19
     QStringList terms, notes;                                     ///< BT-20, BT-22
+    int interestOnArrears = 0;                                    ///< hundredths of a percent; in terms too
+    int buyerNumber = -1;                                         ///< BT-46, the seller's own number of the buyer
     QString precedingNumber;                                      ///< BT-25
     QDate precedingDate;                                          ///< BT-26
     QString reference;                                            ///< BT-83, without blanks
@@ -79,6 +84,7 @@ struct Document {
     Party seller, buyer;                   ///< BG-4, BG-7
     Party deliverTo;                       ///< BT-70 to BT-80; empty for none
     bool hasDeliverTo = false;             ///< false: deliverTo says nothing
+    bool isDeliverToAssumed = false;       ///< the buyer's address, since nothing was said
     QVector<Account> accounts;             ///< those that are printed, in the seller's order
     QVector<Line> lines;                   ///< rows of text alone are in notes
     QVector<Tax> taxes;                    ///< BG-23, ascending by rate, then category

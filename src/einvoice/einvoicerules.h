@@ -14,6 +14,7 @@ struct Finding {
     Severity severity;        ///< of the rule
     const char *term;         ///< "BT-55"; a literal
     const char *field;        ///< of the program's records, "customer.country"; empty for none
+    int row;                  ///< position of the row that it is about, 0 for none
     QString finnish, english; ///< the sentence with the value found, in both languages
 };
 
@@ -21,8 +22,8 @@ struct Finding {
 QVector<Finding> check(const Document &document, Format format);
 bool hasError(const QVector<Finding> &findings);
 
-/** The ids of all rules, each once. */
-QStringList ruleIds();
+/** All rules as `BR-11@customer.country`, in the order of the table. */
+QStringList rules();
 
 } // namespace EInvoice
 

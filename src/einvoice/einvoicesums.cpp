@@ -77,7 +77,13 @@ void setPriceAndAllowance(EInvoice::Line &line, const InvoiceItem &row, int sign
         number = -number;
         by = -by;
     }
-    setPrice(line, number, by);
+    if (row.vatExcluded) {
+        line.price = static_cast<long long>(number); // as it was agreed
+        for (line.priceDecimals = 4; line.priceDecimals > 2 && line.price % 10 == 0; --line.priceDecimals)
+            line.price /= 10;
+    } else {
+        setPrice(line, number, by);
+    }
     if (row.discount == 0)
         return;
     Wide scale = quantityScale;

@@ -10,6 +10,7 @@ namespace {
 using namespace EInvoice;
 
 constexpr int nameLength = 70, streetLength = 35, mostStreets = 3, freeTextLength = 512, unitLength = 14;
+constexpr int termsLength = 70;
 constexpr int mostPriceDecimals = 5;
 
 const QString currency = QStringLiteral("AmountCurrencyIdentifier=\"EUR\"");
@@ -24,20 +25,25 @@ QString quoted(const char *name, const QString &value)
 }
 QString lineUp(QString text) { return text.replace(QLatin1Char('\n'), QLatin1Char(' ')); }
 
-/** A text in pieces of a length, each an element of its own. */
+/** The lines of a text in pieces of a length, each an element of its own. */
 void texts(XmlText &xml, const char *name, const QString &text, int length, int most = 1000)
 {
-    const QString line = lineUp(text);
-    for (int i = 0, count = 0; i < line.size() && count < most; i += length, ++count)
-        xml.leaf(name, line.mid(i, length).trimmed());
+    int count = 0;
+    for (const QString &line : text.split(QLatin1Char('\n'))) {
+        for (int i = 0; i < line.size() && count < most; i += length, ++count)
+            xml.leaf(name, line.mid(i, length).trimmed());
+    }
 }
 
 void address(XmlText &xml, const Party &party, const char *group, const char *street, const char *town,
              const char *postCode)
 {
     xml.open(group);
-    for (int i = 0; i < party.streets.size() && i < mostStreets; ++i)
-        xml.leaf(street, party.streets.at(i).left(streetLength));
+    int count = 0;
+    for (const QString &line : party.streets) {
+        if (line.size() > 1 && ++count <= mostStreets) // the format takes two characters or none
+            xml.leaf(street, line.left(streetLength));
+    }
     xml.leaf(town, party.town.left(streetLength));
     xml.leaf(postCode, party.postCode.left(streetLength));
     xml.leaf("CountryCode", party.country);
@@ -71,7 +77,8 @@ void seller(XmlText &xml, const Document &d)
     xml.open("SellerPartyDetails");
     xml.leaf("SellerPartyIdentifier", p.businessId);
     xml.leaf("SellerOrganisationName", p.name.left(nameLength));
-    xml.leaf("SellerOrganisationTradingName", p.tradeName.left(nameLength));
+    if (p.tradeName.size() > 1)
+        xml.leaf("SellerOrganisationTradingName", p.tradeName.left(nameLength));
     xml.leaf("SellerOrganisationTaxCode", p.vatNumber);
     address(xml, p, "SellerPostalAddressDetails", "SellerStreetName", "SellerTownName", "SellerPostCodeIdentifier");
     xml.close();
@@ -114,10 +121,10 @@ void buyer(XmlText &xml, const Document &d)
     xml.leaf("BuyerEmailaddressIdentifier", p.email.left(70));
     xml.close();
     const Party &to = d.deliverTo;
-    const bool isWhole = !to.streets.isEmpty() && !to.town.isEmpty() && !to.postCode.isEmpty();
+    const bool isWhole = to.streets.value(0).size() > 1 && to.town.size() > 1 && to.postCode.size() > 1;
     if (d.hasDeliverTo && isWhole) { // the group is all or nothing
         xml.open("DeliveryPartyDetails");
-        xml.leaf("DeliveryOrganisationName", (to.name.isEmpty() ? p.name : to.name).left(nameLength));
+        xml.leaf("DeliveryOrganisationName", (to.name.size() < 2 ? p.name : to.name).left(streetLength));
         address(xml, to, "DeliveryPostalAddressDetails", "DeliveryStreetName", "DeliveryTownName",
                 "DeliveryPostCodeIdentifier");
         xml.close();
@@ -144,6 +151,7 @@ void details(XmlText &xml, const Document &d, int sign)
     xml.leaf("InvoicingPeriodStartDate", date(d.periodStart), dateFormat);
     xml.leaf("InvoicingPeriodEndDate", date(d.periodEnd), dateFormat);
     xml.leaf("SellerReferenceIdentifier", d.sellerReference.left(70));
+    xml.leaf("SellersBuyerIdentifier", d.buyerNumber > 0 ? QString::number(d.buyerNumber) : QString());
     xml.leaf("OrderIdentifier", d.order);
     xml.leaf("AgreementIdentifier", d.contract);
     xml.leaf("BuyerReferenceIdentifier", d.buyerReference);
@@ -171,10 +179,19 @@ void details(XmlText &xml, const Document &d, int sign)
         texts(xml, "InvoiceFreeText", d.buyer.name, freeTextLength);
     for (const QString &note : d.notes)
         texts(xml, "InvoiceFreeText", note, freeTextLength);
+    const QString stop = QStringLiteral(". ");
+    const QString terms[] = {lineUp(d.terms.value(0)), lineUp(QStringList(d.terms.mid(1)).join(stop))}; // two at most
+    if (terms[0].size() > termsLength || terms[1].size() > termsLength)
+        texts(xml, "InvoiceFreeText", lineUp(d.terms.join(stop)), freeTextLength);
     xml.open("PaymentTermsDetails");
-    for (int i = 0; i < d.terms.size() && i < 2; ++i)
-        xml.leaf("PaymentTermsFreeText", lineUp(d.terms.at(i)).left(70));
+    for (const QString &text : terms)
+        xml.leaf("PaymentTermsFreeText", text.left(termsLength));
     xml.leaf("InvoiceDueDate", date(dueDate(d)), dateFormat);
+    if (d.interestOnArrears > 0) {
+        xml.open("PaymentOverDueFineDetails");
+        xml.leaf("PaymentOverDueFinePercent", percent(d.interestOnArrears));
+        xml.close();
+    }
     xml.close();
     xml.close();
 }

@@ -48,7 +48,7 @@ void address(XmlText &xml, const char *name, const Party &party)
     xml.leaf("cbc:CityName", party.town);
     xml.leaf("cbc:PostalZone", party.postCode);
     xml.open("cac:AddressLine");
-    xml.leaf("cbc:Line", party.streets.value(2));
+    xml.leaf("cbc:Line", QStringList(party.streets.mid(2)).join(QLatin1String(", ")));
     xml.close();
     xml.open("cac:Country");
     xml.leaf("cbc:IdentificationCode", party.country);

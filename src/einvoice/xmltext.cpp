@@ -2,35 +2,53 @@
 
 namespace {
 
-QString startTag(const char *name, const QString &attributes)
+constexpr int usualSize = 16384; // of the document of an ordinary invoice
+
+void appendStart(QString &text, const char *name, const QString &attributes)
 {
-    return QLatin1Char('<') + QLatin1String(name) + (attributes.isEmpty() ? QString() : QLatin1Char(' ') + attributes) +
-           QLatin1Char('>');
+    text += QLatin1Char('<');
+    text += QLatin1String(name);
+    if (!attributes.isEmpty()) {
+        text += QLatin1Char(' ');
+        text += attributes;
+    }
+    text += QLatin1Char('>');
+}
+
+void appendEnd(QString &text, const char *name)
+{
+    text += QLatin1String("</");
+    text += QLatin1String(name);
+    text += QLatin1String(">\n");
 }
 
 } // namespace
 
+XmlText::XmlText(const QString &first) : m_text(first) { m_text.reserve(usualSize); }
+
 void XmlText::open(const char *name, const QString &attributes)
 {
-    m_open.append(QLatin1String(name));
-    m_pending.append(startTag(name, attributes));
+    m_open.append(name);
+    m_pending.append({name, attributes});
 }
 
 void XmlText::flush()
 {
-    for (const QString &tag : qAsConst(m_pending))
-        m_text += tag + QLatin1Char('\n');
+    for (const Pending &element : qAsConst(m_pending)) {
+        appendStart(m_text, element.name, element.attributes);
+        m_text += QLatin1Char('\n');
+    }
     m_pending.clear();
 }
 
 void XmlText::close()
 {
-    const QString name = m_open.takeLast();
+    const char *name = m_open.takeLast();
     if (!m_pending.isEmpty()) {
         m_pending.removeLast(); // nothing was in it
         return;
     }
-    m_text += QLatin1String("</") + name + QLatin1String(">\n");
+    appendEnd(m_text, name);
 }
 
 void XmlText::leaf(const char *name, const QString &content, const QString &attributes)
@@ -38,6 +56,7 @@ void XmlText::leaf(const char *name, const QString &content, const QString &attr
     if (content.isEmpty())
         return;
     flush();
-    m_text += startTag(name, attributes) + content.toHtmlEscaped() + QLatin1String("</") + QLatin1String(name) +
-              QLatin1String(">\n");
+    appendStart(m_text, name, attributes);
+    m_text += content.toHtmlEscaped();
+    appendEnd(m_text, name);
 }

@@ -2,13 +2,13 @@
 #define XMLTEXT_H
 
 #include <QString>
-#include <QStringList>
+#include <QVector>
 
-/** Writes the elements of a document one after the other; one without content is not written. */
+/** Writes the elements of a document one after the other; one without content is not written. Names are literals. */
 class XmlText {
 public:
     /** @param first  what stands in front of the root */
-    explicit XmlText(const QString &first) : m_text(first) {}
+    explicit XmlText(const QString &first);
 
     /** @param attributes  as they stand, `schemeID="0216"` */
     void open(const char *name, const QString &attributes = QString());
@@ -22,9 +22,14 @@ private:
     /** Writes the opened elements that something is in. */
     void flush();
 
-    QString m_text;        ///< one element a line, without indentation
-    QStringList m_open;    ///< names
-    QStringList m_pending; ///< start tags that are not written yet, the last of m_open
+    struct Pending {
+        const char *name;
+        QString attributes;
+    };
+
+    QString m_text;               ///< one element a line, without indentation
+    QVector<const char *> m_open; ///< names, literals
+    QVector<Pending> m_pending;   ///< not written yet, the last of m_open
 };
 
 #endif

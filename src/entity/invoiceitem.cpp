@@ -3,12 +3,25 @@
 #include "constants.h"
 #include "vat.h"
 
+#include <limits>
+
 namespace {
 
 constexpr long long wholePercentage = static_cast<long long>(Constants::percentageScale) * Constants::percentageScale;
 constexpr int amountToTotalDigits = Constants::amountFractionDigits - Constants::totalAmountFractionDigits;
 
 } // namespace
+
+bool InvoiceItem::fits() const
+{
+    const __int128 product = static_cast<__int128>(quantity) * amount;
+    if (product > std::numeric_limits<long long>::max() || product < std::numeric_limits<long long>::min())
+        return false;
+    // A billion euros with all decimals: whatever the VAT rate makes of it fits too.
+    constexpr __int128 most = static_cast<__int128>(10000000000000) * 100000000;
+    const __int128 total = product * (wholePercentage - discount);
+    return total <= most && total >= -most;
+}
 
 long long InvoiceItem::amountVatExcluded() const { return Vat::priceVatExcluded(amount, vatRate, vatExcluded); }
 

@@ -1,10 +1,15 @@
 #ifndef INVOICEITEM_H
 #define INVOICEITEM_H
 
+#include "propertymap.h"
+
 #include <QString>
 
-/** A row of an invoice: one price, a quantity, a VAT rate and a discount, from which every other figure is computed. */
-class InvoiceItem {
+/**
+ * A row of an invoice: one price, a quantity, a VAT rate and a discount, from which every other figure is computed. Its
+ * properties are what RowTerms keeps for it.
+ */
+class InvoiceItem : public PropertyMap {
 public:
     int id = -1;        ///< -1: not stored yet
     int invoiceId = -1; ///< -1: on none yet
@@ -25,6 +30,9 @@ public:
 
     void clear() { *this = InvoiceItem(); }
     void copy(InvoiceItem *target) const { *target = *this; }
+
+    /** Whether quantity times price fits 64 bits, and what follows from it does, as a row that is stored must. */
+    bool fits() const;
 
     // Unit prices before the discount, four decimals.
     long long amountVatExcluded() const;

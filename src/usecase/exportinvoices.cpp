@@ -5,7 +5,6 @@
 #include "exportfilename.h"
 #include "exporttools.h"
 #include "finvoice3writer.h"
-#include "outputfile.h"
 #include "pdfprinter.h"
 #include "printscript.h"
 #include "printscriptmanager.h"
@@ -72,9 +71,7 @@ public:
     }
     ReservedName reserve(int i) const
     {
-        if (m_request.makesFolders)
-            QDir().mkpath(QFileInfo(name(i)).path());
-        return ReservedName([this, i] { return name(i); });
+        return ReservedName([this, i] { return name(i); }, m_request.makesFolders);
     }
     File file(int i, const QString &fileName, const QStringList &exception = {}) const
     {
@@ -191,18 +188,6 @@ EInvoice::Document documentOf(const InvoicePrintModel &model, const Invoice &inv
                             model.visibleBankAccounts(), kind});
 }
 
-/** Writes one that its own writer makes. */
-bool writeEInvoice(UseCaseContext &context, PrintFormat format, bool writeSoap, const EInvoice::Document &document,
-                   InvoicePrintModel &single, const QString &name)
-{
-    OutputFile output(name);
-    QByteArray bytes = format == peppolFormat ? EInvoice::writeUbl(document) : EInvoice::writeFinvoice3(document);
-    if (format == finvoice3Format && writeSoap)
-        bytes.prepend(SoapEnvelope::create(&single));
-    return (output.open() && output.device()->write(bytes) == bytes.size() && output.commit()) ||
-           ExportTools::failWriting(context, name, output.errorString());
-}
-
 bool writeEInvoices(UseCaseContext &context, const Request &request, PrintFormat format, const Documents &documents,
                     InvoicePrintModel &all, QVector<File> &files)
 {
@@ -230,13 +215,19 @@ bool writeEInvoices(UseCaseContext &context, const Request &request, PrintFormat
             files.append(file);
             continue;
         }
-        file.fileName = documents.name(i);
-        if (!request.isTrial) {
-            const ReservedName reserved = documents.reserve(i);
+        if (request.isTrial) {
+            file.fileName = documents.name(i);
+        } else {
+            ReservedName reserved = documents.reserve(i);
             file.fileName = reserved.name();
-            documents.single(i, single);
-            if (!writeEInvoice(context, own, request.writeSoap, document, single, file.fileName))
-                return false;
+            QByteArray bytes = own == peppolFormat ? EInvoice::writeUbl(document) : EInvoice::writeFinvoice3(document);
+            if (own == finvoice3Format && request.writeSoap) {
+                documents.single(i, single);
+                bytes.prepend(SoapEnvelope::create(&single));
+            }
+            QString error;
+            if (!reserved.write(bytes, error))
+                return ExportTools::failWriting(context, file.fileName, error);
         }
         files.append(file);
         documents.tellProgress(i);

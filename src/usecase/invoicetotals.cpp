@@ -4,6 +4,7 @@
 #include "invoiceitem.h"
 #include "payment.h"
 #include "query.h"
+#include "rowterms.h"
 #include "usecasecontext.h"
 
 #include <limits>
@@ -25,6 +26,11 @@ bool fitsIntoCents(long long sum)
 
 InvoiceTotals::Outcome InvoiceTotals::updateInvoice(UseCaseContext &context, int invoiceId)
 {
+    return updateInvoice(context, invoiceId, SavedRows());
+}
+
+InvoiceTotals::Outcome InvoiceTotals::updateInvoice(UseCaseContext &context, int invoiceId, const SavedRows &saved)
+{
     Invoice invoice;
     if (!context.finder.findInvoiceById(invoiceId, &invoice))
         return Outcome::failed;
@@ -32,8 +38,10 @@ InvoiceTotals::Outcome InvoiceTotals::updateInvoice(UseCaseContext &context, int
 
     long long amount = 0;
     InvoiceItem item;
+    QSet<int> rowIds;
     const auto addItem = [&] {
         query->invoiceItem(&item);
+        rowIds.insert(item.id);
         amount += item.totalAmountVatIncluded();
     };
     if (!query->fetchInvoiceItems(invoiceId) || !query->readAll(addItem))
@@ -52,15 +60,19 @@ InvoiceTotals::Outcome InvoiceTotals::updateInvoice(UseCaseContext &context, int
         context.listener.fail(Failure::invoiceTotalTooLarge);
         return Outcome::tooLarge;
     }
+    for (const InvoiceItem &row : saved.rows)
+        RowTerms::write(invoice, row, saved.areNew);
+    RowTerms::keepOnly(invoice, rowIds);
     invoice.totalAmount = static_cast<int>(amount);
     invoice.balance = static_cast<int>(balance);
     context.listener.note(Notice::savingInvoice, {QString::number(invoice.number)});
     return query->saveInvoice(&invoice) ? Outcome::updated : failQuery(context);
 }
 
-InvoiceTotals::Outcome InvoiceTotals::updateInvoices(UseCaseContext &context, int invoiceId, int earlierInvoiceId)
+InvoiceTotals::Outcome InvoiceTotals::updateInvoices(UseCaseContext &context, int invoiceId, int earlierInvoiceId,
+                                                     const SavedRows &saved)
 {
-    const Outcome outcome = updateInvoice(context, invoiceId);
+    const Outcome outcome = updateInvoice(context, invoiceId, saved);
     const bool moved = earlierInvoiceId >= 0 && earlierInvoiceId != invoiceId;
     return moved && outcome == Outcome::updated ? updateInvoice(context, earlierInvoiceId) : outcome;
 }

@@ -1,6 +1,9 @@
 #ifndef INVOICETOTALS_H
 #define INVOICETOTALS_H
 
+#include <QVector>
+
+class InvoiceItem;
 struct UseCaseContext;
 
 /** An invoice's stored total and balance, recomputed from its rows and payments. */
@@ -12,14 +15,22 @@ enum class Outcome {
     tooLarge, ///< beyond 32 bits of cents: what was saved before must be taken back
 };
 
+/** Rows that were just saved: what they say of themselves goes to their invoice. */
+struct SavedRows {
+    QVector<InvoiceItem> rows;
+    bool areNew = false;
+};
+
 /** Recomputes and saves the total and the balance; a failure is told, with nothing changed. */
 [[nodiscard]] Outcome updateInvoice(UseCaseContext &context, int invoiceId);
+[[nodiscard]] Outcome updateInvoice(UseCaseContext &context, int invoiceId, const SavedRows &saved);
 
 /**
- * The same for the invoice of a saved row or payment, and for the one that it was moved away from.
+ * The same for the invoice of a payment or row, and for the one that it was moved away from.
  * @param earlierInvoiceId  -1 for a new record; may be the same
  */
-[[nodiscard]] Outcome updateInvoices(UseCaseContext &context, int invoiceId, int earlierInvoiceId);
+[[nodiscard]] Outcome updateInvoices(UseCaseContext &context, int invoiceId, int earlierInvoiceId,
+                                     const SavedRows &saved);
 
 } // namespace InvoiceTotals
 

@@ -2,10 +2,12 @@
 
 #include "bankaccount.h"
 #include "customer.h"
+#include "invoice.h"
 #include "invoiceitem.h"
 #include "payment.h"
 #include "product.h"
 #include "query.h"
+#include "rowterms.h"
 #include "usecasecontext.h"
 
 #include <algorithm>
@@ -26,12 +28,27 @@ bool saveListed(UseCaseContext &context, Record &record, bool (Query::*save)(Rec
     return true;
 }
 
-/** A row's total must fit its 32 bits of cents. */
+/** A row's total must fit its 32 bits of cents, and quantity times price 64, which a large discount may hide. */
 bool checkTotal(UseCaseContext &context, const InvoiceItem &row)
 {
+    if (!row.fits())
+        return context.listener.fail(Failure::rowTotalTooLarge);
     constexpr long long most = std::numeric_limits<int>::max();
     const long long total = row.totalAmountVatIncluded();
     return (total <= most && total >= -most) || context.listener.fail(Failure::rowTotalTooLarge);
+}
+
+/** What a row says of itself goes with it to another invoice; the earlier one may be gone. */
+bool takeAlong(UseCaseContext &context, int earlierInvoiceId, InvoiceItem &row)
+{
+    Query *query = context.session.query();
+    if (!query->fetchInvoiceDetails(earlierInvoiceId))
+        return false;
+    return query->readAll([&] {
+        Invoice earlier;
+        query->invoiceDetails(&earlier);
+        RowTerms::read(earlier, row);
+    });
 }
 
 } // namespace
@@ -80,7 +97,7 @@ bool RecordEditing::addRows(UseCaseContext &context, int invoiceId, QVector<Invo
             return context.session.failQuery();
         context.lastSaved.invoiceItem = row.id;
     }
-    return InvoiceTotals::updateInvoice(context, invoiceId) == Outcome::updated;
+    return InvoiceTotals::updateInvoice(context, invoiceId, {rows, true}) == Outcome::updated;
 }
 
 Outcome RecordEditing::saveRow(UseCaseContext &context, InvoiceItem &row, int earlierInvoiceId)
@@ -89,7 +106,10 @@ Outcome RecordEditing::saveRow(UseCaseContext &context, InvoiceItem &row, int ea
     if (!checkTotal(context, row))
         return Outcome::tooLarge;
     Query *query = context.session.query();
-    if (row.id < 0) {
+    const bool isNew = row.id < 0;
+    if (!isNew && earlierInvoiceId != row.invoiceId && !takeAlong(context, earlierInvoiceId, row))
+        return fail(context.session.failQuery());
+    if (isNew) {
         row.rowNumber = query->nextRowNumber(row.invoiceId);
         if (row.rowNumber < 0)
             return fail(context.session.failQuery());
@@ -97,7 +117,7 @@ Outcome RecordEditing::saveRow(UseCaseContext &context, InvoiceItem &row, int ea
     context.listener.note(Notice::savingRow, {QString::number(row.invoiceId), row.productName});
     if (!query->saveInvoiceItem(&row))
         return fail(context.session.failQuery());
-    const Outcome outcome = InvoiceTotals::updateInvoices(context, row.invoiceId, earlierInvoiceId);
+    const Outcome outcome = InvoiceTotals::updateInvoices(context, row.invoiceId, earlierInvoiceId, {{row}, isNew});
     if (outcome != Outcome::tooLarge)
         context.lastSaved.invoiceItem = row.id;
     return outcome;
@@ -111,7 +131,7 @@ Outcome RecordEditing::savePayment(UseCaseContext &context, Payment &payment, in
         return Outcome::tooLarge;
     }
     context.lastSaved.payment = payment.id;
-    return InvoiceTotals::updateInvoices(context, payment.invoiceId, earlierInvoiceId);
+    return InvoiceTotals::updateInvoices(context, payment.invoiceId, earlierInvoiceId, {});
 }
 
 bool RecordEditing::remove(UseCaseContext &context, BankAccount &account)

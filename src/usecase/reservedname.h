@@ -11,8 +11,11 @@
  */
 class ReservedName {
 public:
-    /** @param nextName  makes a name that no file has at the moment; asked again when somebody else was faster */
-    explicit ReservedName(const std::function<QString()> &nextName);
+    /**
+     * @param nextName      makes a name that no file has at the moment; asked again when somebody else was faster
+     * @param makesFolders  whether those that the name stands in are made
+     */
+    ReservedName(const std::function<QString()> &nextName, bool makesFolders);
     ~ReservedName();
     ReservedName(const ReservedName &) = delete;
     ReservedName &operator=(const ReservedName &) = delete;
@@ -20,6 +23,11 @@ public:
     const QString &name() const { return m_name; }
     /** Whether the file was made here: not in a folder that cannot be written, nor for a device. */
     bool isMade() const { return m_isMade; }
+    /**
+     * Writes the file at once where it was made here: it has no earlier content to keep until the new one is whole.
+     * @return false with the system's text, and no file
+     */
+    [[nodiscard]] bool write(const QByteArray &bytes, QString &error);
     /** Removes a file that was made to reserve its name, if nothing was written into it. */
     static void release(const QString &name);
 

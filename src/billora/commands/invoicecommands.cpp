@@ -2,6 +2,7 @@
 #include "commandtable.h"
 
 #include "editorfile.h"
+#include "einvoiceterms.h"
 #include "exportinvoices.h"
 #include "integer.h"
 #include "invoicereader.h"
@@ -328,6 +329,8 @@ bool startCopy(Task &task, const Invoice &original, InvoiceEditor &editor)
     invoice.buyerRef = original.buyerRef;
     invoice.sellerRef = original.sellerRef;
     invoice.interestOnArrears = original.interestOnArrears;
+    for (const char *key : EInvoiceTerms::copied)
+        invoice.setPropertyIfNotEmpty(QLatin1String(key), original.property(QLatin1String(key)).toString());
     if (customer.id >= 0)
         editor.useCustomer(customer);
     return editor.setPaymentTerms(original.paymentTerms);
@@ -403,8 +406,8 @@ bool credit(Task &task)
     Invoice &invoice = editor.invoice();
     invoice.type = Invoice::creditNote;
     invoice.buyerRef = QStringLiteral("Lasku %1").arg(stored.number); // of the document, not of the program
-    invoice.setProperty(QStringLiteral("bt25"), QString::number(stored.number));
-    invoice.setProperty(QStringLiteral("bt26"), stored.date.toString(Qt::ISODate));
+    invoice.setProperty(QLatin1String(EInvoiceTerms::creditedInvoice), QString::number(stored.number));
+    invoice.setProperty(QLatin1String(EInvoiceTerms::creditedDate), stored.date.toString(Qt::ISODate));
     Arguments given = task.arguments;
     if (!given.has("paymentTerms"))
         given.add(QStringLiteral("paymentTerms"), stored.paymentTerms);
@@ -483,6 +486,7 @@ QString mendingOf(const ExportInvoices::Checked &invoice, const EInvoice::Findin
         const bool isCustomers = record == QLatin1String("customer");
         return QString::fromUtf8(mending.command)
             .replace(QLatin1String("%1"), QString::number(isCustomers ? invoice.customerNumber : invoice.invoiceNumber))
+            .replace(QLatin1String("ROW"), finding.row > 0 ? QString::number(finding.row) : QStringLiteral("ROW"))
             .replace(QLatin1String("%2"),
                      record == QLatin1String("settings") ? field : CommandTable::hyphenated(field));
     }

@@ -1,7 +1,9 @@
 #ifndef EINVOICETERMS_H
 #define EINVOICETERMS_H
 
+#include "einvoicecodes.h"
 #include "field.h"
+#include "fieldgetters.h"
 #include "texts.h"
 
 // The terms of an e-invoice that records keep as properties: `bt` and the number of the business term (EN 16931).
@@ -24,6 +26,24 @@ inline constexpr char deliveryPostCode[] = "bt78", deliveryCountry[] = "bt80";
 /** Of the customer; BT-49's scheme is a code of the EAS list. */
 inline constexpr char buyerReference[] = "bt10", countryCode[] = "bt55", einvoiceScheme[] = "bt49-scheme";
 inline constexpr char einvoiceFormat[] = "bt-format"; ///< no business term: a word of `formats`
+
+/** The lists that hold the codes of a term. */
+inline constexpr char exemptions[] = "vatex", addressSchemes[] = "eas", countries[] = "iso3166";
+
+/** The setter of a property that must be a code of a list, typed in any case. */
+template <auto part, const char *key, const char *list>
+bool setCode(void *record, const ValueReader &reader, const Field &field, const QString &value)
+{
+    const QString code = value.toUpper();
+    if (!code.isEmpty() && !EInvoiceCodes::contains(list, code))
+        return reader.failValue(field.name, value, text(TEXT("koodia ei ole luettelossa")));
+    return PropertyOf<part, key>::set(record, reader, field, code);
+}
+
+/** What a copy and a credit note take over from the invoice. */
+inline constexpr const char *copied[] = {project,          contract,       order,        accounting,     vatCategory,
+                                         vatReason,        vatReasonCode,  deliveryName, deliveryStreet, deliveryTown,
+                                         deliveryPostCode, deliveryCountry};
 
 /** Codes of UNCL 5305 for rows of 0 % VAT; S, the standard rate, is told by the rate. */
 inline constexpr Choice vatCategories[] = {{"AE", TEXT("käännetty verovelvollisuus")},

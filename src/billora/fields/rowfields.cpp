@@ -1,3 +1,4 @@
+#include "einvoiceterms.h"
 #include "fieldgetters.h"
 #include "fieldsetters.h"
 #include "records.h"
@@ -16,6 +17,17 @@ template <auto setPrice> bool price(void *record, const ValueReader &reader, con
     if (!reader.number(field.name, field.type, value, amount))
         return false;
     (static_cast<InvoiceItem *>(record)->*setPrice)(amount);
+    return true;
+}
+
+/** An emptied term stays as an empty one, so that the invoice forgets it. */
+template <const char *key, bool (*set)(void *, const ValueReader &, const Field &, const QString &)>
+bool setTerm(void *record, const ValueReader &reader, const Field &field, const QString &value)
+{
+    if (!set(record, reader, field, value))
+        return false;
+    InvoiceItem &item = *static_cast<InvoiceItem *>(record);
+    item.setProperty(QLatin1String(key), item.property(QLatin1String(key), QString()));
     return true;
 }
 
@@ -58,6 +70,17 @@ constexpr Field fields[] = {
     {"text", ValueType::text, TEXT("Teksti"), TEXT("vapaa teksti rivin alle"),
      edited | Field::clearable | Field::multiline, partValue<part, &InvoiceItem::text>,
      setMember<InvoiceItem, &InvoiceItem::text>, nullptr, nullptr, "text"},
+    {"vatCategory", ValueType::word, TEXT("Veroluokka"), TEXT("rivin oma veroluokka, jos vero on 0 %: AE K G E O Z"),
+     edited | Field::clearable, PropertyOf<part, EInvoiceTerms::vatCategory>::getWord,
+     setTerm<EInvoiceTerms::vatCategory, PropertyOf<part, EInvoiceTerms::vatCategory>::set>,
+     EInvoiceTerms::vatCategories},
+    {"vatReason", ValueType::text, TEXT("Verottomuuden syy"), nullptr, edited | Field::clearable,
+     PropertyOf<part, EInvoiceTerms::vatReason>::get,
+     setTerm<EInvoiceTerms::vatReason, PropertyOf<part, EInvoiceTerms::vatReason>::set>},
+    {"vatReasonCode", ValueType::text, TEXT("Verottomuuden koodi"), TEXT("verottomuuden syyn koodi (VATEX)"),
+     edited | Field::clearable, PropertyOf<part, EInvoiceTerms::vatReasonCode>::get,
+     setTerm<EInvoiceTerms::vatReasonCode,
+             EInvoiceTerms::setCode<part, EInvoiceTerms::vatReasonCode, EInvoiceTerms::exemptions>>},
     {"net", ValueType::money, TEXT("Veroton"), nullptr, shown, value<&R::net>},
     {"total", ValueType::money, TEXT("Summa"), nullptr, shown, value<&R::total>},
 };
