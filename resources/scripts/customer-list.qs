@@ -24,5 +24,3 @@ var COLUMNS = [
 ];
 
 function closingLines(table) { return totalsLines(table); }
-
-@LIST_TABLE@

@@ -78,5 +78,3 @@ function closingLines(table) {
         addVatLine(rows[i]);
     return lines;
 }
-
-@LIST_TABLE@

@@ -39,5 +39,3 @@ function closingLines(table) {
     addSumLine("Laskut yhteensä, kukin kerran", "totalAmount");
     return lines;
 }
-
-@LIST_TABLE@

@@ -37,5 +37,3 @@ function prices(values) { return decimals(values, AMOUNT_SCALE, 2); }
 function percentages(values) { return decimals(values, PERCENTAGE_SCALE, 0); }
 
 function closingLines(table) { return totalsLines(table); }
-
-@LIST_TABLE@

@@ -14,11 +14,7 @@ constexpr auto environmentOptions = QScriptEngine::ExcludeSuperClassContents | Q
 } // namespace
 
 // A resource in a static library is linked only when it is named; the macro does not work inside a namespace or class.
-static void initScriptResources()
-{
-    Q_INIT_RESOURCE(scripts);
-    Q_INIT_RESOURCE(listscripts);
-}
+static void initScriptResources() { Q_INIT_RESOURCE(scripts); }
 
 ScriptRunner::ScriptRunner(const char *prelude, const char *entryPoint)
     : m_prelude(prelude), m_entryPointName(QString::fromLatin1(entryPoint)),
