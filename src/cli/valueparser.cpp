@@ -3,6 +3,7 @@
 #include "commandstatus.h"
 #include "integer.h"
 #include "invoice.h"
+#include "isodate.h"
 
 #include <algorithm>
 #include <limits>
@@ -11,19 +12,6 @@ namespace {
 
 constexpr int dateLength = 10; // yyyy-MM-dd
 constexpr int minReferenceLength = 4;
-
-QDate parseDate(const QString &text)
-{
-    const QStringView view(text);
-    const QStringView year = view.left(4);
-    const QStringView month = view.mid(5, 2);
-    const QStringView day = view.mid(8);
-    const bool wellFormed = text.size() == dateLength && text.at(4) == QLatin1Char('-') &&
-                            text.at(7) == QLatin1Char('-') && Integer::isDigits(year) && Integer::isDigits(month) &&
-                            Integer::isDigits(day);
-    bool ok = false;
-    return wellFormed ? QDate(Integer::parse(year, ok), Integer::parse(month, ok), Integer::parse(day, ok)) : QDate();
-}
 
 } // namespace
 
@@ -75,7 +63,7 @@ bool ValueParser::parseIntRangeValue(const QString &key, const QString &value, i
 
 bool ValueParser::parseDateValue(const QString &key, const QString &value, QDate &result)
 {
-    const QDate date = parseDate(value);
+    const QDate date = IsoDate::parse(value);
     if (!date.isValid())
         return fail(tr("Virheellinen päivämäärä: %1=%2"), key, value);
     result = date;
@@ -85,8 +73,8 @@ bool ValueParser::parseDateValue(const QString &key, const QString &value, QDate
 bool ValueParser::parseDateRangeValue(const QString &key, const QString &value, QDate &from, QDate &to)
 {
     const int separator = value.indexOf(QLatin1Char('-'), dateLength);
-    const QDate first = separator < 0 ? QDate() : parseDate(value.left(separator));
-    const QDate last = separator < 0 ? QDate() : parseDate(value.mid(separator + 1));
+    const QDate first = separator < 0 ? QDate() : IsoDate::parse(value.left(separator));
+    const QDate last = separator < 0 ? QDate() : IsoDate::parse(value.mid(separator + 1));
     if (!first.isValid() || !last.isValid())
         return fail(tr("Virheellinen päivämääräväli: %1=%2"), key, value);
     from = first;

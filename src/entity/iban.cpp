@@ -1,5 +1,7 @@
 #include "iban.h"
 
+#include "checkdigits.h"
+
 namespace {
 
 constexpr int finnishLength = 18;
@@ -17,7 +19,6 @@ constexpr struct {
 };
 
 bool isLetter(QChar c) { return c >= QLatin1Char('A') && c <= QLatin1Char('Z'); }
-bool isDigit(QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }
 
 } // namespace
 
@@ -27,17 +28,7 @@ bool Iban::isValid(const QString &iban)
         return false;
     if (iban.startsWith(QLatin1String("FI")) && iban.size() != finnishLength)
         return false;
-    int rest = 0;
-    const QString turned = iban.mid(4) + iban.left(4);
-    for (const QChar c : turned) {
-        if (isDigit(c))
-            rest = (rest * 10 + c.unicode() - '0') % 97;
-        else if (isLetter(c))
-            rest = (rest * 100 + c.unicode() - 'A' + 10) % 97;
-        else
-            return false;
-    }
-    return rest == 1;
+    return CheckDigits::modulo97(iban.mid(4) + iban.left(4)) == 1;
 }
 
 QString Iban::finnishBic(const QString &iban)

@@ -22,16 +22,6 @@ bool isRf(const QString &reference) { return reference.startsWith(QLatin1String(
 
 } // namespace
 
-int Invoice::calculateReferenceNumberCheckDigit(const QString &digits)
-{
-    constexpr int weights[] = {7, 3, 1};
-    int sum = 0;
-    int position = 0;
-    for (auto it = digits.crbegin(); it != digits.crend(); ++it, ++position)
-        sum += it->digitValue() * weights[position % 3];
-    return (10 - sum % 10) % 10;
-}
-
 QString Invoice::appendCheckDigitToReferenceNumber(const QString &text)
 {
     QString base;
@@ -43,7 +33,7 @@ QString Invoice::appendCheckDigitToReferenceNumber(const QString &text)
     if (base.isEmpty())
         base = QStringLiteral("100");
     base = base.right(maxBaseLength).leftJustified(minBaseLength, QLatin1Char('0'));
-    return base + QString::number(calculateReferenceNumberCheckDigit(base));
+    return base + QString::number(CheckDigits::ofReference(base));
 }
 
 bool Invoice::isValidReferenceNumber(const QString &reference)

@@ -1,6 +1,7 @@
 #ifndef INVOICE_H
 #define INVOICE_H
 
+#include "checkdigits.h"
 #include "propertymap.h"
 
 #include <QDate>
@@ -38,8 +39,8 @@ public:
     void clear() { *this = Invoice(); }
     void copy(Invoice *target) const { *target = *this; }
 
-    /** Weights 7, 3, 1 from the right. @return 0 to 9; digits only are expected, nothing is checked */
-    static int calculateReferenceNumberCheckDigit(const QString &digits);
+    /** See CheckDigits::ofReference(). */
+    static int calculateReferenceNumberCheckDigit(const QString &digits) { return CheckDigits::ofReference(digits); }
 
     /**
      * Makes a national reference of any text: its digits without leading zeros, the last 19 of them, filled up with

@@ -1,5 +1,7 @@
 #include "accountnumber.h"
 
+#include "checkdigits.h"
+
 #include <QRegularExpression>
 
 namespace {
@@ -30,10 +32,7 @@ QString machineForm(const QString &bankPart, const QString &accountPart)
 
 AccountNumber AccountNumber::fromBban(const QString &bban)
 {
-    // Mod 97-10 over the number followed by "FI" (15 18) and the check digits "00".
-    int remainder = 0;
-    for (const QChar c : QString(bban + QLatin1String("151800")))
-        remainder = (remainder * 10 + c.digitValue()) % 97;
+    const int remainder = CheckDigits::modulo97(bban + QLatin1String("FI00"));
     const QString check = QString::number(98 - remainder).rightJustified(2, QLatin1Char('0'));
     return {QLatin1String("FI") + check + bban, bban};
 }

@@ -1,5 +1,6 @@
 #include "paymenttext.h"
 
+#include "checkdigits.h"
 #include "constants.h"
 #include "decimalformat.h"
 #include "integer.h"
@@ -99,14 +100,9 @@ QString PaymentText::nationalReference(const QString &text)
 bool PaymentText::isNationalReference(const QString &digits)
 {
     constexpr int minLength = 4, maxLength = 20;
-    constexpr int weights[] = {7, 3, 1};
     if (digits.size() < minLength || digits.size() > maxLength || !Integer::isDigits(digits))
         return false;
-    int sum = 0;
-    const int last = digits.size() - 1;
-    for (int i = 0; i < last; ++i)
-        sum += weights[i % 3] * digits.at(last - 1 - i).digitValue();
-    return (10 - sum % 10) % 10 == digits.at(last).digitValue();
+    return CheckDigits::ofReference(digits.chopped(1)) == digits.back().digitValue();
 }
 
 bool PaymentText::parseAmount(const DecimalFormat &format, const QString &text, qint64 &cents)
