@@ -328,6 +328,10 @@
         <translation>note</translation>
     </message>
     <message>
+        <source>Lasku %1, %2 %3: %4</source>
+        <translation>Invoice %1, %2 %3: %4</translation>
+    </message>
+    <message>
         <source>Laskut ovat valmiita lähetettäviksi.</source>
         <translation>The invoices are ready to be sent.</translation>
     </message>
@@ -988,12 +992,20 @@
         <translation>NAME</translation>
     </message>
     <message>
+        <source>1 lasku</source>
+        <translation>1 invoice</translation>
+    </message>
+    <message>
+        <source>%1 laskua</source>
+        <translation>%1 invoices</translation>
+    </message>
+    <message>
         <source>%1
-Avoinna    %2 laskua, %3
-Erääntynyt %4 laskua, %5</source>
+Avoinna    %2, %3
+Erääntynyt %4, %5</source>
         <translation>%1
-Open    %2 invoices, %3
-Overdue %4 invoices, %5</translation>
+Open    %2, %3
+Overdue %4, %5</translation>
     </message>
     <message>
         <source>korjaa laskujen summat ja avoimet rivien ja suoritusten mukaan</source>
@@ -1576,8 +1588,8 @@ Overdue %4 invoices, %5</translation>
         <translation>VAT category</translation>
     </message>
     <message>
-        <source>veroluokka riveille, joiden vero on 0 %: AE K G E O Z</source>
-        <translation>VAT category of rows at 0 %: AE K G E O Z</translation>
+        <source>veroluokka riveille, joiden vero on 0 %</source>
+        <translation>VAT category of rows at 0 %</translation>
     </message>
     <message>
         <source>Verottomuuden syy</source>
@@ -1920,8 +1932,8 @@ Overdue %4 invoices, %5</translation>
         <translation>free text below the row</translation>
     </message>
     <message>
-        <source>rivin oma veroluokka, jos vero on 0 %: AE K G E O Z</source>
-        <translation>the row's own VAT category, when its VAT is 0 %: AE K G E O Z</translation>
+        <source>rivin oma veroluokka, jos vero on 0 %</source>
+        <translation>the row's own VAT category, when its VAT is 0 %</translation>
     </message>
     <message>
         <source>Päivät ja ajanjaksot</source>
@@ -2264,6 +2276,10 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>omat yksiköt: teksti=koodi, pilkuin erotettuina</source>
         <translation>own units: text=code, separated by commas</translation>
+    </message>
+    <message>
+        <source>veroluokka riveille, joiden vero on 0 %: AE K G E O Z</source>
+        <translation>VAT category of rows at 0 %: AE K G E O Z</translation>
     </message>
     <message>
         <source>verottomuuden syy</source>

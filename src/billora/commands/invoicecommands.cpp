@@ -506,6 +506,16 @@ CheckRecord recordOf(const ExportInvoices::Checked &invoice, const EInvoice::Fin
     return record;
 }
 
+/** A finding in a line of its own, what mends it in the next. */
+void tell(Task &task, const CheckRecord &record, const EInvoice::Finding &finding)
+{
+    task.answer.line(text(TEXT("Lasku %1, %2 %3: %4"))
+                         .arg(QString::number(record.invoiceNumber),
+                              text(severities[static_cast<int>(finding.severity)].text), record.rule, record.message));
+    if (!record.command.isEmpty())
+        task.answer.line(QStringLiteral("  ") + record.command);
+}
+
 bool checkInvoices(Task &task)
 {
     auto selection = std::make_shared<InvoiceSelection>();
@@ -518,23 +528,29 @@ bool checkInvoices(Task &task)
     if (format >= 0)
         wanted = format == 0 ? finvoice3Format : peppolFormat;
     QVector<ExportInvoices::Checked> checked;
+    // Sentences are too long for the columns of a terminal.
+    const bool isProse = task.answer.options().isTerminal && task.answer.wantsSentences();
     if (!ExportInvoices::check(task.context(), criteria, wanted, checked) ||
-        !task.answer.beginList(checkTable, task.session))
+        (!isProse && !task.answer.beginList(checkTable, task.session)))
         return false;
     int count = 0;
     for (const ExportInvoices::Checked &one : qAsConst(checked)) {
         for (const EInvoice::Finding &finding : one.findings) {
             const CheckRecord record = recordOf(one, finding);
-            task.answer.add(&record);
+            if (isProse)
+                tell(task, record, finding);
+            else
+                task.answer.add(&record);
             ++count;
             if (finding.severity == EInvoice::Severity::error)
                 task.exitCode = exitNeedsLook;
         }
     }
-    task.answer.endList();
+    if (!isProse)
+        task.answer.endList();
     if (checked.isEmpty())
         return task.fail(Problem::notFound, text(TEXT("yhtään laskua ei löytynyt")), QStringLiteral("invoices"));
-    if (count == 0 && task.answer.options().isTerminal && task.answer.wantsSentences())
+    if (count == 0 && isProse)
         task.answer.line(text(TEXT("Laskut ovat valmiita lähetettäviksi.")));
     return true;
 }

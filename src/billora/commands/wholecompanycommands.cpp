@@ -250,6 +250,8 @@ bool init(Task &task)
     return true;
 }
 
+QString invoices(int count) { return count == 1 ? text(TEXT("1 lasku")) : text(TEXT("%1 laskua")).arg(count); }
+
 bool status(Task &task)
 {
     Query *query = task.context().session.query();
@@ -304,8 +306,8 @@ bool status(Task &task)
                 json.null();
             json.member("today", today.toString(Qt::ISODate));
         },
-        text(TEXT("%1\nAvoinna    %2 laskua, %3\nErääntynyt %4 laskua, %5"))
-            .arg(name, QString::number(openCount), ValueWriter::money(open), QString::number(overdueCount),
+        text(TEXT("%1\nAvoinna    %2, %3\nErääntynyt %4, %5"))
+            .arg(name, invoices(openCount), ValueWriter::money(open), invoices(overdueCount),
                  ValueWriter::money(overdue)));
     if (overdueCount > 0)
         task.answer.hint(text(TEXT("Seuraavaksi: ")) + QStringLiteral("billora invoice list --overdue"));

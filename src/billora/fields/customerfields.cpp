@@ -94,7 +94,7 @@ constexpr Field fields[] = {
     {"countryCode", ValueType::text, TEXT("Maakoodi"), TEXT("ISO 3166, jos maan nimeä ei tunneta"),
      Field::editable | Field::clearable, PropertyOf<part, EInvoiceTerms::countryCode>::get,
      EInvoiceTerms::setCode<part, EInvoiceTerms::countryCode, EInvoiceTerms::countries>},
-    {"vatCategory", ValueType::word, TEXT("Veroluokka"), TEXT("veroluokka riveille, joiden vero on 0 %: AE K G E O Z"),
+    {"vatCategory", ValueType::word, TEXT("Veroluokka"), TEXT("veroluokka riveille, joiden vero on 0 %"),
      Field::editable | Field::clearable, PropertyOf<part, EInvoiceTerms::vatCategory>::getWord,
      PropertyOf<part, EInvoiceTerms::vatCategory>::set, EInvoiceTerms::vatCategories},
     {"vatReason", ValueType::text, TEXT("Verottomuuden syy"), nullptr, Field::editable | Field::clearable,

@@ -105,7 +105,7 @@ constexpr Field fields[] = {
     {"periodEnd", ValueType::date, TEXT("Kausi päättyy"), TEXT("laskutuskauden loppu"),
      Field::editable | Field::clearable, PropertyOf<part, EInvoiceTerms::periodEnd>::getDate,
      PropertyOf<part, EInvoiceTerms::periodEnd>::set},
-    {"vatCategory", ValueType::word, TEXT("Veroluokka"), TEXT("veroluokka riveille, joiden vero on 0 %: AE K G E O Z"),
+    {"vatCategory", ValueType::word, TEXT("Veroluokka"), TEXT("veroluokka riveille, joiden vero on 0 %"),
      Field::editable | Field::clearable, PropertyOf<part, EInvoiceTerms::vatCategory>::getWord,
      PropertyOf<part, EInvoiceTerms::vatCategory>::set, EInvoiceTerms::vatCategories},
     {"vatReason", ValueType::text, TEXT("Verottomuuden syy"), nullptr, Field::editable | Field::clearable,

@@ -70,7 +70,7 @@ constexpr Field fields[] = {
     {"text", ValueType::text, TEXT("Teksti"), TEXT("vapaa teksti rivin alle"),
      edited | Field::clearable | Field::multiline, partValue<part, &InvoiceItem::text>,
      setMember<InvoiceItem, &InvoiceItem::text>, nullptr, nullptr, "text"},
-    {"vatCategory", ValueType::word, TEXT("Veroluokka"), TEXT("rivin oma veroluokka, jos vero on 0 %: AE K G E O Z"),
+    {"vatCategory", ValueType::word, TEXT("Veroluokka"), TEXT("rivin oma veroluokka, jos vero on 0 %"),
      edited | Field::clearable, PropertyOf<part, EInvoiceTerms::vatCategory>::getWord,
      setTerm<EInvoiceTerms::vatCategory, PropertyOf<part, EInvoiceTerms::vatCategory>::set>,
      EInvoiceTerms::vatCategories},
