@@ -25,6 +25,7 @@ struct Option {
     const Choice *choices = nullptr;   ///< of a word; null: any
     char letter = 0;                   ///< of the short form
     const char *placeholder = nullptr; ///< in usage lines; null: by the type
+    const char *codeList = nullptr;    ///< as of Field
 
     bool is(Flag flag) const { return (flags & flag) != 0; }
 };

@@ -59,7 +59,8 @@ const std::vector<Option> &fieldOptions(const RecordTable &table)
         for (const Field &field : table) {
             if (field.is(Field::editable))
                 options->push_back({field.name, field.type, field.description ? field.description : field.heading,
-                                    field.is(Field::required) ? unsigned(Option::required) : 0u, field.choices});
+                                    field.is(Field::required) ? unsigned(Option::required) : 0u, field.choices, 0,
+                                    nullptr, field.codeList});
         }
     }
     return *options;

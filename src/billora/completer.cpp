@@ -3,6 +3,7 @@
 #include "bankaccount.h"
 #include "commandtable.h"
 #include "customer.h"
+#include "einvoicecodes.h"
 #include "integer.h"
 #include "invoice.h"
 #include "invoiceselection.h"
@@ -110,6 +111,11 @@ void values(Session &session, const Option &option, const Command &command, cons
 {
     for (const Choice *choice = option.choices; choice && choice->word; ++choice)
         found.add(word, QLatin1String(choice->word), text(choice->text));
+    if (option.codeList) {
+        const QStringList codes = EInvoiceCodes::codes(option.codeList);
+        for (const QString &code : codes)
+            found.add(word, code, QString());
+    }
     if (option.type == ValueType::file) {
         found.wantsFiles = true;
         return;

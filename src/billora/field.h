@@ -42,6 +42,7 @@ struct Field {
     const Choice *choices = nullptr;     ///< of a word
     const RecordTable *nested = nullptr; ///< of records
     const char *protocolName = nullptr;  ///< in billora-cli, null where it has none
+    const char *codeList = nullptr;      ///< of EInvoiceCodes: nothing but its codes is taken; null: anything
 
     bool is(Flag flag) const { return (flags & flag) != 0; }
 };

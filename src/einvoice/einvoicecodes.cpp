@@ -71,6 +71,16 @@ bool EInvoiceCodes::contains(const char *list, const QString &code)
     return codes.contains(QLatin1String(list) + QLatin1Char(' ') + code);
 }
 
+QStringList EInvoiceCodes::codes(const char *list)
+{
+    QStringList found;
+    for (const QStringList &row : rowsOf("codes.tsv")) {
+        if (row.first() == QLatin1String(list))
+            found.append(row.last());
+    }
+    return found;
+}
+
 QString EInvoiceCodes::country(const QString &text)
 {
     static const QHash<QString, QString> codes = countryTable();

@@ -1,13 +1,15 @@
 #ifndef EINVOICECODES_H
 #define EINVOICECODES_H
 
-#include <QString>
+#include <QStringList>
 
 /** The code lists that the standard refers to, as tables of the program. */
 namespace EInvoiceCodes {
 
 /** @param list  "eas", "peppol-eas", "vatex", "rec20", "iso3166" or "vatprefix" */
 bool contains(const char *list, const QString &code);
+/** All of a list, in the order of the table. */
+QStringList codes(const char *list);
 /** ISO 3166-1 of a country's code or name in Finnish, Swedish or English; empty when it is not known. */
 QString country(const QString &text);
 /**

@@ -30,12 +30,12 @@ inline constexpr char einvoiceFormat[] = "bt-format"; ///< no business term: a w
 /** The lists that hold the codes of a term. */
 inline constexpr char exemptions[] = "vatex", addressSchemes[] = "eas", countries[] = "iso3166";
 
-/** The setter of a property that must be a code of a list, typed in any case. */
-template <auto part, const char *key, const char *list>
+/** The setter of a property that must be a code of the field's list, typed in any case. */
+template <auto part, const char *key>
 bool setCode(void *record, const ValueReader &reader, const Field &field, const QString &value)
 {
     const QString code = value.toUpper();
-    if (!code.isEmpty() && !EInvoiceCodes::contains(list, code))
+    if (!code.isEmpty() && !EInvoiceCodes::contains(field.codeList, code))
         return reader.failValue(field.name, value, text(TEXT("koodia ei ole luettelossa")));
     return PropertyOf<part, key>::set(record, reader, field, code);
 }

@@ -112,7 +112,7 @@ constexpr Field fields[] = {
      PropertyOf<part, EInvoiceTerms::vatReason>::get, PropertyOf<part, EInvoiceTerms::vatReason>::set},
     {"vatReasonCode", ValueType::text, TEXT("Verottomuuden koodi"), TEXT("verottomuuden syyn koodi (VATEX)"),
      Field::editable | Field::clearable, PropertyOf<part, EInvoiceTerms::vatReasonCode>::get,
-     EInvoiceTerms::setCode<part, EInvoiceTerms::vatReasonCode, EInvoiceTerms::exemptions>},
+     EInvoiceTerms::setCode<part, EInvoiceTerms::vatReasonCode>, nullptr, nullptr, nullptr, EInvoiceTerms::exemptions},
     {"deliveryName", ValueType::text, TEXT("Toimitus: nimi"), nullptr, Field::editable | Field::clearable,
      PropertyOf<part, EInvoiceTerms::deliveryName>::get, PropertyOf<part, EInvoiceTerms::deliveryName>::set},
     {"deliveryStreet", ValueType::text, TEXT("Toimitus: katuosoite"), nullptr, Field::editable | Field::clearable,

@@ -79,8 +79,8 @@ constexpr Field fields[] = {
      setTerm<EInvoiceTerms::vatReason, PropertyOf<part, EInvoiceTerms::vatReason>::set>},
     {"vatReasonCode", ValueType::text, TEXT("Verottomuuden koodi"), TEXT("verottomuuden syyn koodi (VATEX)"),
      edited | Field::clearable, PropertyOf<part, EInvoiceTerms::vatReasonCode>::get,
-     setTerm<EInvoiceTerms::vatReasonCode,
-             EInvoiceTerms::setCode<part, EInvoiceTerms::vatReasonCode, EInvoiceTerms::exemptions>>},
+     setTerm<EInvoiceTerms::vatReasonCode, EInvoiceTerms::setCode<part, EInvoiceTerms::vatReasonCode>>, nullptr,
+     nullptr, nullptr, EInvoiceTerms::exemptions},
     {"net", ValueType::money, TEXT("Veroton"), nullptr, shown, value<&R::net>},
     {"total", ValueType::money, TEXT("Summa"), nullptr, shown, value<&R::total>},
 };
