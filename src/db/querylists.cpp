@@ -229,8 +229,10 @@ QString Query::invoiceListOrder(const InvoiceSelection &selection)
     const QString order = column ? QString(QLatin1String(column->column)).replace(QLatin1String("%1"), balance)
                                  : QStringLiteral("i.number");
     const QString direction = selection.descending ? QStringLiteral(" DESC") : QString();
-    QString sql = QLatin1String(" ORDER BY ") + order + direction + QLatin1String(", i.number") + direction +
-                  QLatin1String(", i.id") + direction;
+    QString sql = QLatin1String(" ORDER BY ") + order + direction;
+    if (order != QLatin1String("i.number")) // a term that is there twice would be sorted anew, row by row
+        sql += QLatin1String(", i.number") + direction;
+    sql += QLatin1String(", i.id") + direction;
     if (selection.limit >= 0)
         sql += QLatin1String(" LIMIT ") + QString::number(selection.limit);
     return sql;
