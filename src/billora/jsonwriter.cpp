@@ -49,7 +49,8 @@ void JsonWriter::name(const char *name)
 void JsonWriter::string(const QString &value)
 {
     separate();
-    ValueWriter::appendJsonString(m_target, value);
+    ByteGatherer bytes(m_target);
+    ValueWriter::appendJsonString(bytes, value);
 }
 
 void JsonWriter::number(long long value)
@@ -138,18 +139,19 @@ JsonMembers::JsonMembers(const QVector<const Field *> &fields)
 
 void JsonMembers::append(QByteArray &target, const void *record) const
 {
+    ByteGatherer bytes(target);
     for (const Member &member : m_members) {
-        target += member.prefix;
+        bytes.append(member.prefix);
         const Value value = member.field->get(record);
         if (value.kind() != Value::records) {
-            ValueWriter::appendJson(target, *member.field, value);
+            ValueWriter::appendJson(bytes, *member.field, value);
             continue;
         }
-        JsonWriter json(target);
+        JsonWriter json(bytes.target());
         json.beginArray();
         for (const void *nested : value.toRecords())
             json.record(*member.field->nested, nested);
         json.endArray();
     }
-    target += m_end;
+    bytes.append(m_end);
 }

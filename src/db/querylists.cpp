@@ -259,22 +259,22 @@ bool Query::fetchInvoiceList(const InvoiceSelection &selection, bool withDetails
 
 void Query::invoiceListRow(Invoice *record, int *customerNumber, QString *customerName, bool withDetails) const
 {
-    record->id = m_query.value(0).toInt();
-    record->number = m_query.value(1).toInt();
-    record->type = m_query.value(2).toInt();
+    record->id = integerValue(m_query, 0);
+    record->number = integerValue(m_query, 1);
+    record->type = integerValue(m_query, 2);
     record->date = dateValue(m_query, 3);
     record->dueDate = dateValue(m_query, 4);
-    record->customerId = m_query.value(5).toInt();
+    record->customerId = integerValue(m_query, 5);
     const QVariant number = m_query.value(6);
     *customerNumber = number.isNull() ? -1 : number.toInt();
     *customerName = m_query.value(7).toString();
     record->referenceNumber = m_query.value(8).toString();
-    record->totalAmount = m_query.value(9).toInt();
-    record->balance = m_query.value(10).toInt();
+    record->totalAmount = integerValue(m_query, 9);
+    record->balance = integerValue(m_query, 10);
     if (!withDetails)
         return;
     record->paymentTerms = m_query.value(11).toString();
-    record->interestOnArrears = m_query.value(12).toInt();
+    record->interestOnArrears = integerValue(m_query, 12);
     record->delivery = m_query.value(13).toString();
     record->deliveryDate = dateValue(m_query, 14);
     record->buyerRef = m_query.value(15).toString();
