@@ -100,6 +100,13 @@ void JsonWriter::members(const JsonMembers &members, const void *record)
 
 void JsonWriter::record(const RecordTable &table, const void *record)
 {
+    beginObject();
+    JsonMembers::of(table).append(m_target, record);
+    endObject();
+}
+
+const JsonMembers &JsonMembers::of(const RecordTable &table)
+{
     static QHash<const RecordTable *, const JsonMembers *> made; // few, and as long as the program
     const JsonMembers *&members = made[&table];
     if (!members) {
@@ -108,9 +115,7 @@ void JsonWriter::record(const RecordTable &table, const void *record)
             all.append(&field);
         members = new JsonMembers(all);
     }
-    beginObject();
-    members->append(m_target, record);
-    endObject();
+    return *members;
 }
 
 JsonMembers::JsonMembers(const QVector<const Field *> &fields)
