@@ -94,6 +94,8 @@ bool Answer::choose(const RecordTable &table, bool whole, ProblemSink &sink)
             problem.suggestions.append({word, QString()});
         return sink.fail(problem);
     }
+    if (m_options.fields.isEmpty() && (m_options.form == OutputForm::json || m_options.form == OutputForm::jsonl))
+        return true; // in the order of the table the members of an object stand together
     if (m_options.form == OutputForm::json || m_options.form == OutputForm::jsonl) {
         // The members of an object stand together, where its first one was asked for.
         std::stable_sort(m_fields.begin(), m_fields.end(), [order = m_fields](const Field *a, const Field *b) {
@@ -202,9 +204,13 @@ void Answer::writeRecord(const void *record)
     case OutputForm::jsonl: {
         JsonWriter json(m_buffer);
         json.beginObject();
-        if (!m_members)
-            m_members = std::make_unique<JsonMembers>(m_fields);
-        json.members(*m_members, record);
+        if (m_fields.size() == m_table->count && m_options.fields.isEmpty()) {
+            json.members(JsonMembers::of(*m_table), record);
+        } else {
+            if (!m_members)
+                m_members = std::make_unique<JsonMembers>(m_fields);
+            json.members(*m_members, record);
+        }
         endMembers(json);
         json.endObject();
         if (m_options.form == OutputForm::jsonl)

@@ -6,6 +6,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <cstring>
 #include <memory>
 #include <vector>
 
@@ -135,7 +136,10 @@ const OptionGroup &CommandTable::globalOptions()
 
 QVector<const Option *> CommandTable::options(const Command &command)
 {
-    QVector<const Option *> all;
+    static QHash<const Command *, QVector<const Option *>> made; // a batch asks for them line after line
+    QVector<const Option *> &all = made[&command];
+    if (!all.isEmpty())
+        return all;
     for (const OptionGroup &options : command.options) {
         for (const Option &option : options)
             all.append(&option);
@@ -143,7 +147,7 @@ QVector<const Option *> CommandTable::options(const Command &command)
     if (command.edits) {
         for (const Option &option : fieldOptions(*command.edits)) {
             const bool isKnown = std::any_of(all.begin(), all.end(), [&option](const Option *known) {
-                return isNamed(*known, QLatin1String(option.name));
+                return std::strcmp(known->name, option.name) == 0;
             });
             if (!isKnown)
                 all.append(&option);

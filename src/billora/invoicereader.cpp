@@ -76,18 +76,17 @@ bool InvoiceReader::read(Task &task, const InvoiceSelection &selection, bool wit
         return false;
     Query *query = session.query();
     const QDate day = selection.asOf.isValid() ? selection.asOf : task.reader.today();
-    // The rows of a chunk are read by a statement of their own while the list stands.
+    // While the list stands, the rows of a chunk are read by a statement of their own; those of the last one are not,
+    // and the statements of a single invoice are so the session's, which are kept.
     std::unique_ptr<Query> details;
-    if (withDetails)
-        details = session.newQuery();
     const int roundingMode = withDetails ? task.session.registry().settings()->roundingMode() : 0;
     if (!query->fetchInvoiceList(selection, withDetails))
         return session.failQuery();
     QVector<InvoiceRecord> chunk;
     bool isWanted = true;
-    const auto pass = [&]() {
-        if (details && !chunk.isEmpty() && !addDetails(*details, chunk, roundingMode))
-            return session.failDatabase(details->lastError());
+    const auto pass = [&](Query &rows) {
+        if (withDetails && !chunk.isEmpty() && !addDetails(rows, chunk, roundingMode))
+            return session.failDatabase(rows.lastError());
         for (const InvoiceRecord &record : qAsConst(chunk))
             isWanted = isWanted && each(record);
         chunk.clear();
@@ -97,18 +96,22 @@ bool InvoiceReader::read(Task &task, const InvoiceSelection &selection, bool wit
         InvoiceRecord record;
         record.today = day;
         query->invoiceListRow(&record.invoice, &record.customerNumber, &record.customerName, withDetails);
-        if (!details) {
+        if (!withDetails) {
             isWanted = each(record);
             continue;
         }
         chunk.append(record);
-        if (chunk.size() == chunkSize && !pass())
+        if (chunk.size() < chunkSize)
+            continue;
+        if (!details)
+            details = session.newQuery();
+        if (!pass(*details))
             return false;
     }
     if (isWanted && query->hasReadError())
         return session.failQuery();
     query->finish();
-    return !isWanted || pass();
+    return !isWanted || pass(*query);
 }
 
 bool InvoiceReader::readWhole(Task &task, int id, InvoiceRecord &record)

@@ -49,7 +49,8 @@ void JsonWriter::name(const char *name)
 void JsonWriter::string(const QString &value)
 {
     separate();
-    ValueWriter::appendJsonString(m_target, value);
+    ByteGatherer bytes(m_target);
+    ValueWriter::appendJsonString(bytes, value);
 }
 
 void JsonWriter::number(long long value)
@@ -99,6 +100,13 @@ void JsonWriter::members(const JsonMembers &members, const void *record)
 
 void JsonWriter::record(const RecordTable &table, const void *record)
 {
+    beginObject();
+    JsonMembers::of(table).append(m_target, record);
+    endObject();
+}
+
+const JsonMembers &JsonMembers::of(const RecordTable &table)
+{
     static QHash<const RecordTable *, const JsonMembers *> made; // few, and as long as the program
     const JsonMembers *&members = made[&table];
     if (!members) {
@@ -107,9 +115,7 @@ void JsonWriter::record(const RecordTable &table, const void *record)
             all.append(&field);
         members = new JsonMembers(all);
     }
-    beginObject();
-    members->append(m_target, record);
-    endObject();
+    return *members;
 }
 
 JsonMembers::JsonMembers(const QVector<const Field *> &fields)
@@ -138,18 +144,19 @@ JsonMembers::JsonMembers(const QVector<const Field *> &fields)
 
 void JsonMembers::append(QByteArray &target, const void *record) const
 {
+    ByteGatherer bytes(target);
     for (const Member &member : m_members) {
-        target += member.prefix;
+        bytes.append(member.prefix);
         const Value value = member.field->get(record);
         if (value.kind() != Value::records) {
-            ValueWriter::appendJson(target, *member.field, value);
+            ValueWriter::appendJson(bytes, *member.field, value);
             continue;
         }
-        JsonWriter json(target);
+        JsonWriter json(bytes.target());
         json.beginArray();
         for (const void *nested : value.toRecords())
             json.record(*member.field->nested, nested);
         json.endArray();
     }
-    target += m_end;
+    bytes.append(m_end);
 }

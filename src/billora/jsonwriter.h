@@ -11,6 +11,8 @@ class JsonMembers {
 public:
     /** @param fields  in the order of the output; those of one object, as `a.b` and `a.c`, stand together */
     explicit JsonMembers(const QVector<const Field *> &fields);
+    /** All fields of a table. */
+    static const JsonMembers &of(const RecordTable &table);
 
     /** Appends the members of a record, without the braces around them. */
     void append(QByteArray &target, const void *record) const;

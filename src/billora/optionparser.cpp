@@ -270,8 +270,10 @@ Problem OptionParser::missing(const Command &command, const Arguments &arguments
     for (const Option *option : all) {
         const bool isNeeded = option->is(Option::required) &&
                               (command.is(Command::adds) || !command.edits || option->is(Option::plainWord));
+        if (!isNeeded)
+            continue;
         const QString name = QLatin1String(option->name);
-        if (!isNeeded || arguments.has(name))
+        if (arguments.has(name))
             continue;
         problem.code = Problem::missingOption;
         problem.option = name;

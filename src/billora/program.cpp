@@ -64,11 +64,11 @@ bool Program::readForm(const Arguments &global)
 bool Program::readGlobals(const CommandLine &line)
 {
     const Arguments &global = line.global;
+    const ValueReader reader(m_session, QDate::currentDate());
     for (const Option &option : CommandTable::globalOptions()) {
         const QString name = QLatin1String(option.name);
         bool isTrue = false;
         QString word;
-        const ValueReader reader(m_session, QDate::currentDate());
         if (!global.has(name))
             continue;
         if (option.type == ValueType::flag && !reader.flag(name, global.text(name), isTrue))

@@ -76,11 +76,12 @@ bool Runner::check(const Command &command, const Arguments &arguments, const Man
     const ValueReader reader(m_session, QDate::currentDate());
     const QVector<const Option *> options = CommandTable::options(command);
     for (const Option *option : options) {
+        if (option->type != ValueType::flag)
+            continue;
         const QString name = QLatin1String(option->name);
         bool isTrue = false;
         const bool isField = command.edits && command.edits->find(name);
-        if (option->type == ValueType::flag && !isField && arguments.has(name) &&
-            !reader.flag(name, arguments.text(name), isTrue))
+        if (!isField && arguments.has(name) && !reader.flag(name, arguments.text(name), isTrue))
             return false;
     }
     if (manners.isInteractive && command.is(Command::asks))
@@ -153,9 +154,6 @@ bool Runner::runKeyed(Task &task, const QString &key)
 bool Runner::checkNames(const Command &command, const Arguments &arguments)
 {
     const QVector<const Option *> options = CommandTable::options(command);
-    QStringList known;
-    for (const Option *option : options)
-        known.append(QLatin1String(option->name));
     if ((arguments.hasRows || !arguments.rows.isEmpty()) && !takesRows(command)) {
         Problem problem;
         problem.code = Problem::unknownField;
@@ -169,10 +167,14 @@ bool Runner::checkNames(const Command &command, const Arguments &arguments)
                                         [&name](const Option *option) { return name == QLatin1String(option->name); });
         Problem problem;
         problem.option = name;
-        if (found == options.end() && !globalNames.contains(name)) {
+        const bool isKnown = found != options.end() || globalNames.contains(name);
+        if (!isKnown) {
             problem.code = Problem::unknownField;
             problem.message = text(TEXT("kenttää ei ole: %1")).arg(name);
             problem.value = name;
+            QStringList known;
+            for (const Option *option : options)
+                known.append(QLatin1String(option->name));
             const QStringList near = Suggestions::nearest(name, known);
             for (const QString &word : near)
                 problem.suggestions.append({word, QString()});
@@ -180,12 +182,12 @@ bool Runner::checkNames(const Command &command, const Arguments &arguments)
         }
         const bool isFlag = found != options.end() ? (*found)->type == ValueType::flag : name == QLatin1String("yes");
         const bool isList = found != options.end() && (*found)->is(Option::list);
+        const bool hasMany = arguments.texts(name.toLatin1().constData()).size() > 1;
+        if ((!arguments.booleans.contains(name) || isFlag) && (!hasMany || isList || name == QLatin1String("fields")))
+            continue;
         problem.code = Problem::badValue;
         problem.message = text(TEXT("%1 ei voi olla tätä tyyppiä")).arg(name);
-        if (arguments.booleans.contains(name) && !isFlag)
-            return m_session.fail(problem);
-        if (arguments.texts(name.toLatin1().constData()).size() > 1 && !isList && name != QLatin1String("fields"))
-            return m_session.fail(problem);
+        return m_session.fail(problem);
     }
     for (const Arguments &row : arguments.rows) {
         const QStringList fields = row.names();

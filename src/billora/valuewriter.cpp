@@ -4,6 +4,8 @@
 #include "language.h"
 #include "texts.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int groupSize = 3;
@@ -22,48 +24,51 @@ QString grouped(QString plain)
     return plain;
 }
 
-void appendUtf8(QByteArray &target, uint codePoint)
+char *putUtf8(char *to, uint codePoint)
 {
     if (codePoint < 0x80) {
-        target += static_cast<char>(codePoint);
+        *to++ = static_cast<char>(codePoint);
     } else if (codePoint < 0x800) {
-        target += static_cast<char>(0xc0 | (codePoint >> 6));
-        target += static_cast<char>(0x80 | (codePoint & 0x3f));
+        *to++ = static_cast<char>(0xc0 | (codePoint >> 6));
+        *to++ = static_cast<char>(0x80 | (codePoint & 0x3f));
     } else if (codePoint < 0x10000) {
-        target += static_cast<char>(0xe0 | (codePoint >> 12));
-        target += static_cast<char>(0x80 | ((codePoint >> 6) & 0x3f));
-        target += static_cast<char>(0x80 | (codePoint & 0x3f));
+        *to++ = static_cast<char>(0xe0 | (codePoint >> 12));
+        *to++ = static_cast<char>(0x80 | ((codePoint >> 6) & 0x3f));
+        *to++ = static_cast<char>(0x80 | (codePoint & 0x3f));
     } else {
-        target += static_cast<char>(0xf0 | (codePoint >> 18));
-        target += static_cast<char>(0x80 | ((codePoint >> 12) & 0x3f));
-        target += static_cast<char>(0x80 | ((codePoint >> 6) & 0x3f));
-        target += static_cast<char>(0x80 | (codePoint & 0x3f));
+        *to++ = static_cast<char>(0xf0 | (codePoint >> 18));
+        *to++ = static_cast<char>(0x80 | ((codePoint >> 12) & 0x3f));
+        *to++ = static_cast<char>(0x80 | ((codePoint >> 6) & 0x3f));
+        *to++ = static_cast<char>(0x80 | (codePoint & 0x3f));
     }
+    return to;
 }
 
-void appendEscape(QByteArray &target, ushort unit)
+char *putEscape(char *to, ushort unit)
 {
+    *to++ = '\\';
     switch (unit) {
     case '"':
-        target += "\\\"";
-        break;
     case '\\':
-        target += "\\\\";
+        *to++ = static_cast<char>(unit);
         break;
     case '\n':
-        target += "\\n";
+        *to++ = 'n';
         break;
     case '\r':
-        target += "\\r";
+        *to++ = 'r';
         break;
     case '\t':
-        target += "\\t";
+        *to++ = 't';
         break;
     default:
-        target += "\\u00";
-        target += "0123456789abcdef"[unit >> 4];
-        target += "0123456789abcdef"[unit & 15];
+        *to++ = 'u';
+        *to++ = '0';
+        *to++ = '0';
+        *to++ = "0123456789abcdef"[unit >> 4];
+        *to++ = "0123456789abcdef"[unit & 15];
     }
+    return to;
 }
 
 } // namespace
@@ -108,37 +113,36 @@ QString ValueWriter::plain(const Field &field, const Value &value)
     return QString();
 }
 
-void ValueWriter::appendJsonString(QByteArray &target, const QString &text)
+void ValueWriter::appendJsonString(ByteGatherer &target, const QString &text)
 {
-    // Room for the longest escapes is taken and given back: one call for the whole text, as lists are long.
-    constexpr int longest = 6;
-    const int before = target.size();
-    target.resize(before + text.size() * longest + 2);
-    char *const begin = target.data();
-    char *to = begin + before;
-    *to++ = '"';
+    constexpr int longest = 6; // an escape; a pair makes four bytes
     const ushort *unit = text.utf16();
-    const ushort *end = unit + text.size();
-    for (; unit < end && *unit >= 32 && *unit < 127 && *unit != '"' && *unit != '\\'; ++unit)
-        *to++ = static_cast<char>(*unit);
-    target.resize(static_cast<int>(to - begin));
-    for (; unit < end; ++unit) {
-        if (*unit < 0x80) {
-            if (*unit >= 32 && *unit != '"' && *unit != '\\' && *unit != 127)
-                target += static_cast<char>(*unit);
-            else
-                appendEscape(target, *unit);
-        } else if (QChar::isHighSurrogate(*unit) && unit + 1 < end && QChar::isLowSurrogate(unit[1])) {
-            appendUtf8(target, QChar::surrogateToUcs4(unit[0], unit[1]));
-            ++unit;
-        } else {
-            appendUtf8(target, QChar::isSurrogate(*unit) ? 0xfffd : *unit); // half a pair is no character
+    const ushort *const end = unit + text.size();
+    target.append('"');
+    while (unit < end) {
+        const ushort *const pieceEnd = std::min(unit + ByteGatherer::capacity / longest - 1, end);
+        char *to = target.room(static_cast<int>(pieceEnd - unit + 1) * longest);
+        for (; unit < pieceEnd; ++unit) {
+            if (*unit >= 32 && *unit < 127 && *unit != '"' && *unit != '\\') {
+                *to++ = static_cast<char>(*unit);
+            } else if (*unit < 0x80) {
+                to = putEscape(to, *unit);
+            } else if (QChar::isHighSurrogate(*unit) && unit + 1 < end && QChar::isLowSurrogate(unit[1])) {
+                to = putUtf8(to, QChar::surrogateToUcs4(unit[0], unit[1])); // perhaps the first unit behind the piece
+                ++unit;
+            } else {
+                to = putUtf8(to, QChar::isSurrogate(*unit) ? 0xfffd : *unit); // half a pair is no character
+            }
         }
+        target.taken(to);
     }
-    target += '"';
+    target.append('"');
 }
 
 namespace {
+
+/** Room that any number or date takes, with quotes. */
+constexpr int longestNumber = 32;
 
 /** Writes digits from the right. @return the first of them */
 char *writeDigits(char *end, unsigned long long number, int least)
@@ -149,55 +153,51 @@ char *writeDigits(char *end, unsigned long long number, int least)
     return at;
 }
 
-void appendInteger(QByteArray &target, long long number)
+unsigned long long magnitude(long long number)
 {
-    char buffer[32];
+    return number < 0 ? 0ULL - static_cast<unsigned long long>(number) : static_cast<unsigned long long>(number);
+}
+
+void appendInteger(ByteGatherer &target, long long number)
+{
+    char buffer[longestNumber];
     char *const end = buffer + sizeof buffer;
-    const bool isNegative = number < 0;
-    char *at = writeDigits(end, isNegative ? 0ULL - static_cast<unsigned long long>(number) : number, 1);
-    if (isNegative)
+    char *at = writeDigits(end, magnitude(number), 1);
+    if (number < 0)
         *--at = '-';
     target.append(at, static_cast<int>(end - at));
 }
 
 /** Sums are most of all numbers: two decimals, quoted. */
-void appendCents(QByteArray &target, long long cents)
+void appendCents(ByteGatherer &target, long long cents)
 {
-    char buffer[40];
+    char buffer[longestNumber];
     char *const end = buffer + sizeof buffer;
-    const bool isNegative = cents < 0;
-    const unsigned long long magnitude = isNegative ? 0ULL - static_cast<unsigned long long>(cents) : cents;
     char *at = end;
     *--at = '"';
-    at = writeDigits(at, magnitude % 100, 2);
+    at = writeDigits(at, magnitude(cents) % 100, 2);
     *--at = '.';
-    at = writeDigits(at, magnitude / 100, 1);
-    if (isNegative)
+    at = writeDigits(at, magnitude(cents) / 100, 1);
+    if (cents < 0)
         *--at = '-';
     *--at = '"';
     target.append(at, static_cast<int>(end - at));
 }
 
-void appendDate(QByteArray &target, const QDate &date)
+void appendDate(ByteGatherer &target, const QDate &date)
 {
-    char buffer[16];
-    char *const end = buffer + sizeof buffer;
+    char buffer[] = "\"yyyy-mm-dd\"";
     int year = 0, month = 0, day = 0;
     date.getDate(&year, &month, &day);
-    char *at = end;
-    *--at = '"';
-    at = writeDigits(at, static_cast<unsigned>(day), 2);
-    *--at = '-';
-    at = writeDigits(at, static_cast<unsigned>(month), 2);
-    *--at = '-';
-    at = writeDigits(at, static_cast<unsigned>(year), 4);
-    *--at = '"';
-    target.append(at, static_cast<int>(end - at));
+    writeDigits(buffer + 5, static_cast<unsigned>(year), 4);
+    writeDigits(buffer + 8, static_cast<unsigned>(month), 2);
+    writeDigits(buffer + 11, static_cast<unsigned>(day), 2);
+    target.append(buffer);
 }
 
 } // namespace
 
-void ValueWriter::appendJson(QByteArray &target, const Field &field, const Value &value)
+void ValueWriter::appendJson(ByteGatherer &target, const Field &field, const Value &value)
 {
     switch (value.kind()) {
     case Value::text:
@@ -207,22 +207,22 @@ void ValueWriter::appendJson(QByteArray &target, const Field &field, const Value
         if (field.type == ValueType::money)
             appendCents(target, value.toNumber());
         else if (isDecimal(field.type))
-            target += '"' + plain(field, value).toLatin1() + '"';
+            target.append('"' + plain(field, value).toLatin1() + '"');
         else
             appendInteger(target, value.toNumber());
         return;
     case Value::boolean:
-        target += value.toBool() ? "true" : "false";
+        target.append(value.toBool() ? QByteArrayLiteral("true") : QByteArrayLiteral("false"));
         return;
     case Value::date:
         if (value.toDate().year() >= 0 && value.toDate().year() <= 9999)
             appendDate(target, value.toDate());
         else
-            target += '"' + plain(field, value).toLatin1() + '"';
+            target.append('"' + plain(field, value).toLatin1() + '"');
         return;
     case Value::null:
     case Value::records:
-        target += "null";
+        target.append("null");
     }
 }
 

@@ -229,8 +229,10 @@ QString Query::invoiceListOrder(const InvoiceSelection &selection)
     const QString order = column ? QString(QLatin1String(column->column)).replace(QLatin1String("%1"), balance)
                                  : QStringLiteral("i.number");
     const QString direction = selection.descending ? QStringLiteral(" DESC") : QString();
-    QString sql = QLatin1String(" ORDER BY ") + order + direction + QLatin1String(", i.number") + direction +
-                  QLatin1String(", i.id") + direction;
+    QString sql = QLatin1String(" ORDER BY ") + order + direction;
+    if (order != QLatin1String("i.number")) // a term that is there twice would be sorted anew, row by row
+        sql += QLatin1String(", i.number") + direction;
+    sql += QLatin1String(", i.id") + direction;
     if (selection.limit >= 0)
         sql += QLatin1String(" LIMIT ") + QString::number(selection.limit);
     return sql;
@@ -257,22 +259,22 @@ bool Query::fetchInvoiceList(const InvoiceSelection &selection, bool withDetails
 
 void Query::invoiceListRow(Invoice *record, int *customerNumber, QString *customerName, bool withDetails) const
 {
-    record->id = m_query.value(0).toInt();
-    record->number = m_query.value(1).toInt();
-    record->type = m_query.value(2).toInt();
+    record->id = integerValue(m_query, 0);
+    record->number = integerValue(m_query, 1);
+    record->type = integerValue(m_query, 2);
     record->date = dateValue(m_query, 3);
     record->dueDate = dateValue(m_query, 4);
-    record->customerId = m_query.value(5).toInt();
+    record->customerId = integerValue(m_query, 5);
     const QVariant number = m_query.value(6);
     *customerNumber = number.isNull() ? -1 : number.toInt();
     *customerName = m_query.value(7).toString();
     record->referenceNumber = m_query.value(8).toString();
-    record->totalAmount = m_query.value(9).toInt();
-    record->balance = m_query.value(10).toInt();
+    record->totalAmount = integerValue(m_query, 9);
+    record->balance = integerValue(m_query, 10);
     if (!withDetails)
         return;
     record->paymentTerms = m_query.value(11).toString();
-    record->interestOnArrears = m_query.value(12).toInt();
+    record->interestOnArrears = integerValue(m_query, 12);
     record->delivery = m_query.value(13).toString();
     record->deliveryDate = dateValue(m_query, 14);
     record->buyerRef = m_query.value(15).toString();

@@ -25,7 +25,7 @@ class RowReader {
 public:
     RowReader(const QSqlQuery &row, int first) : m_row(row), m_column(first) {}
 
-    RowReader &operator>>(int &value) { return set(value, next().toInt()); }
+    RowReader &operator>>(int &value) { return set(value, integerValue(m_row, m_column++)); }
     RowReader &operator>>(long long &value) { return set(value, next().toLongLong()); }
     RowReader &operator>>(bool &value) { return set(value, next().toBool()); }
     RowReader &operator>>(QString &value) { return set(value, next().toString()); }
@@ -55,8 +55,20 @@ private:
 QDate dateValue(const QSqlQuery &row, int column)
 {
     const QVariant value = row.value(column);
-    const QDate date = value.type() == QVariant::String ? IsoDate::parse(value.toString()) : QDate();
-    return date.isValid() ? date : value.toDate(); // a date already, as some backends give it, or another form
+    if (value.userType() == QMetaType::QString) {
+        const QDate date = IsoDate::parse(*static_cast<const QString *>(value.constData()));
+        if (date.isValid())
+            return date;
+    }
+    return value.toDate(); // a date already, as some backends give it, or another form
+}
+
+int integerValue(const QSqlQuery &row, int column)
+{
+    const QVariant value = row.value(column);
+    if (value.userType() == QMetaType::LongLong)
+        return static_cast<int>(*static_cast<const qlonglong *>(value.constData()));
+    return value.toInt();
 }
 
 template <> const char *const TableColumns<BankAccount>::table = "bank_account";

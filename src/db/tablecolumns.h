@@ -31,6 +31,8 @@ template <class Record> struct TableColumns {
 
 /** A date column as either backend gives it; invalid for none. */
 QDate dateValue(const QSqlQuery &row, int column);
+/** An integer column, 0 for none, without the general conversion where that is possible. */
+int integerValue(const QSqlQuery &row, int column);
 
 /** @return the column list with the id in front, each column with the prefix ("", "i.") */
 template <class Record> QString selectedColumns(const QString &prefix = QString());
