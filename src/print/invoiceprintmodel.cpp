@@ -69,6 +69,12 @@ void InvoicePrintModel::copyBankAccounts()
     }
 }
 
+QDate InvoicePrintModel::date() const
+{
+    const bool hasDate = !m_invoices.isEmpty() && m_invoices.first().date.isValid();
+    return hasDate ? m_invoices.first().date : PrintModel::date();
+}
+
 void InvoicePrintModel::clear()
 {
     m_invoices.clear();

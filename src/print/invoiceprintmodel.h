@@ -41,6 +41,7 @@ public:
     /** See PrintModel; the title is "Lasku", translated, unless set. */
     QString title() const override { return m_title; }
     QString lastError() const override { return m_lastError; }
+    QDate date() const override; ///< of the first invoice
     /** Owned by the model; filled in before run(). */
     InvoiceCriteria *criteria() { return &m_criteria; }
 

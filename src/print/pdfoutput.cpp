@@ -2,10 +2,13 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QPainter>
 #include <QPrinter>
 
-PdfOutput::PdfOutput(QPrinter *printer)
-    : m_printer(printer),
+#include <ctime>
+
+PdfOutput::PdfOutput(QPrinter *printer, const QDate &date)
+    : m_printer(printer), m_date(date),
       m_fileName(printer->outputFormat() == QPrinter::PdfFormat ? printer->outputFileName() : QString()),
       m_place(m_fileName)
 {
@@ -19,12 +22,19 @@ PdfOutput::~PdfOutput()
         m_printer->setOutputFileName(m_fileName);
 }
 
-/** Whether the document has its end; the writing itself reports no errors. */
-bool PdfOutput::isWritten() const
+/** The writing itself reports no errors: a whole document is known by its end. */
+bool PdfOutput::finish() const
 {
-    static const QByteArray end = QByteArrayLiteral("%%EOF\n");
+    static const QByteArray creation = QByteArrayLiteral("/CreationDate (D:"), end = QByteArrayLiteral("%%EOF\n");
+    constexpr qint64 headSize = 1024; // bytes; the creation is in the first object
     QFile file(m_place.temporaryName());
-    return file.open(QIODevice::ReadOnly) && file.seek(qMax(0LL, file.size() - end.size())) && file.readAll() == end;
+    if (!file.open(QIODevice::ReadWrite))
+        return false;
+    const int place = file.read(headSize).indexOf(creation);
+    const QByteArray moment = m_date.toString(QStringLiteral("yyyyMMdd000000")).toLatin1();
+    if (place >= 0 && (!file.seek(place + creation.size()) || file.write(moment) != moment.size()))
+        return false;
+    return file.seek(qMax(0LL, file.size() - end.size())) && file.readAll() == end;
 }
 
 bool PdfOutput::fail(const QString &message)
@@ -46,11 +56,29 @@ bool PdfOutput::open()
     return file.open(QIODevice::WriteOnly | QIODevice::NewOnly) || fail(file.errorString());
 }
 
+bool PdfOutput::begin(QPainter &painter)
+{
+    if (!open())
+        return false;
+    // The library writes the creation now, with the offset from UTC behind it, which would be longer elsewhere.
+    const bool hasZone = qEnvironmentVariableIsSet("TZ");
+    const QByteArray zone = qgetenv("TZ");
+    qputenv("TZ", "UTC0");
+    tzset();
+    const bool hasBegun = painter.begin(m_printer);
+    if (hasZone)
+        qputenv("TZ", zone);
+    else
+        qunsetenv("TZ");
+    tzset();
+    return hasBegun;
+}
+
 bool PdfOutput::commit()
 {
     if (m_place.temporaryName().isEmpty())
         return true;
-    if (!isWritten())
+    if (!finish())
         return fail(tr("Tiedoston kirjoittaminen jäi kesken"));
     return m_place.putInPlace() || fail(m_place.errorString());
 }

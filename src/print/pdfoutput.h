@@ -4,24 +4,35 @@
 #include "replacedfile.h"
 
 #include <QCoreApplication>
+#include <QDate>
 #include <QString>
 
+class QPainter;
 class QPrinter;
 
 /**
  * Makes a printer write its PDF file as a whole or not at all: it writes beside the file, and a complete document then
  * takes the file's place. The library's own PDF writing tells nobody of a full disk. What is no regular file is written
  * directly; a printer that writes no file is left alone.
+ *
+ * The same document has the same bytes on every day and in every time zone: its creation is the beginning of the day
+ * that it is of. Only what is no regular file has the time of its writing.
  */
 class PdfOutput {
     Q_DECLARE_TR_FUNCTIONS(PdfOutput)
 public:
-    /** @param printer  not owned; has its output file name back when this object is gone */
-    explicit PdfOutput(QPrinter *printer);
+    /**
+     * @param printer  not owned; has its output file name back when this object is gone
+     * @param date     the day that the document is of
+     */
+    PdfOutput(QPrinter *printer, const QDate &date);
     ~PdfOutput();
 
-    /** To be called before the painter begins, which would only warn on standard error. */
-    [[nodiscard]] bool open(); ///< also makes the temporary file, in which nobody could have put a link
+    /**
+     * Makes the temporary file, in which nobody could have put a link, and begins to paint into it.
+     * @return false with the reason in errorString(), which stays null where the library has none
+     */
+    [[nodiscard]] bool begin(QPainter &painter);
     /** To be called when the painter has ended. @return whether the document is in the file */
     [[nodiscard]] bool commit();
     /** The system's own text or a translated one; null until a failure. */
@@ -29,9 +40,11 @@ public:
 
 private:
     bool fail(const QString &message); ///< keeps the message. @return false
-    bool isWritten() const;            ///< looks for the end mark %%EOF: the library reports no error of writing
+    bool open();                       ///< the library would only warn on standard error
+    bool finish() const;               ///< sets the creation. @return whether the document has its end
 
     QPrinter *m_printer;      ///< not owned
+    const QDate m_date;       ///< of the document
     const QString m_fileName; ///< as given; empty for no file
     ReplacedFile m_place;     ///< without a place for pipes and for printers that write no file
     QString m_errorString;    ///< null until a failure

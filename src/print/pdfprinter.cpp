@@ -1,9 +1,12 @@
 #include "pdfprinter.h"
 
 #include <QCoreApplication>
+#include <QHash>
 
 std::unique_ptr<QPrinter> PdfPrinter::create(const QString &fileName)
 {
+    // The library writes the fonts of a document in the order of a table that would be another one in every process.
+    qSetGlobalQHashSeed(0);
     // Without library paths the plugin that speaks to the print server is not found. Later it is, so the server is set
     // to one that refuses at once.
     qputenv("CUPS_SERVER", "/dev/null");

@@ -1,6 +1,7 @@
 #ifndef PRINTMODEL_H
 #define PRINTMODEL_H
 
+#include <QDate>
 #include <QImage>
 #include <QObject>
 #include <QString>
@@ -29,6 +30,12 @@ public:
     virtual QString title() const = 0;
     virtual QString lastError() const; ///< empty before a failure
 
+    /** The day that scripts see as the current one: that of the system's clock and time zone unless it is set. */
+    QDate today() const { return m_today.isValid() ? m_today : QDate::currentDate(); }
+    void setToday(const QDate &day) { m_today = day; } ///< an invalid one unsets it
+    /** The day that the document is of, always valid. */
+    virtual QDate date() const { return today(); }
+
     /** Splits the path at every "/", empty parts kept, and resolves it. */
     virtual QVariant value(const QString &path);
     virtual QImage image(const QString &path); ///< null for a path that leads to no image
@@ -46,6 +53,9 @@ public:
 
     /** The field delimiter of a CSV format number: "," for 0, ";" for any other. */
     static QString csvFormatToDelimiter(int format); ///< nothing else is supported
+
+private:
+    QDate m_today; ///< invalid: the system's
 };
 
 #endif

@@ -110,7 +110,7 @@ QString PrintScriptEnvironment::formatNumber(qlonglong number, int scale, int mi
 
 QString PrintScriptEnvironment::formatDate(const QDate &date, const QString &format) { return date.toString(format); }
 
-QDate PrintScriptEnvironment::currentDate() { return QDate::currentDate(); }
+QDate PrintScriptEnvironment::currentDate() { return m_model->today(); }
 
 void PrintScriptEnvironment::newPage()
 {

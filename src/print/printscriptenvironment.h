@@ -35,7 +35,7 @@ public:
     Q_INVOKABLE QString formatNumber(qlonglong number, int scale, int minFractionDigits);
     /** The format of QDate, with month names of the system. */
     Q_INVOKABLE QString formatDate(const QDate &date, const QString &format);
-    Q_INVOKABLE QDate currentDate(); ///< of the system's clock and time zone
+    Q_INVOKABLE QDate currentDate(); ///< see PrintModel::today()
 
     Q_INVOKABLE void newPage(); ///< counts outside the printed range too
     /** In the pen and brush that are set; coordinates in millimetres. */

@@ -1,6 +1,7 @@
 #include "printscriptmanager.h"
 
 #include "pdfoutput.h"
+#include "printmodel.h"
 #include "printprelude.h"
 #include "printscriptenvironment.h"
 
@@ -24,9 +25,9 @@ void PrintScriptManager::print(QPrinter *printer, PrintModel *model, int fromPag
         printer->setPageSize(QPageSize(static_cast<QPageSize::PageSizeId>(m_paperSize)));
     printer->setPageOrientation(m_orientation == QPrinter::Landscape ? QPageLayout::Landscape : QPageLayout::Portrait);
     printer->setFullPage(true);
-    PdfOutput output(printer);
+    PdfOutput output(printer, model->date());
     QPainter painter;
-    if (!output.open() || !painter.begin(printer)) {
+    if (!output.begin(painter)) {
         m_script.clearExceptions();
         m_lastError = output.errorString().isEmpty() ? tr("Tiedostoon ei voi kirjoittaa") : output.errorString();
         return;

@@ -30,7 +30,7 @@ QString XmlScriptEnvironment::formatNumber(int number, int scale, int minFractio
 
 QString XmlScriptEnvironment::formatDate(const QDate &date, const QString &format) { return date.toString(format); }
 
-QDate XmlScriptEnvironment::currentDate() { return QDate::currentDate(); }
+QDate XmlScriptEnvironment::currentDate() { return m_model->today(); }
 
 void XmlScriptEnvironment::doctype(const QString &text) { m_writer->writeDTD(text); }
 

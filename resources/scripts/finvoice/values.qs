@@ -42,12 +42,10 @@ function dateAt(path)
 
 function dueDateOf(invoice) { return invoice.dueDate === "" ? get("invoice/date") : get("invoice/dueDate"); }
 
-// The moment, as the transmission frame tells it.
+// A moment of the invoice's day: the same invoice makes the same document on any day.
 function timeStamp()
 {
-    var now = new Date();
-    return now.getFullYear() + "-" + padded(now.getMonth() + 1, 2) + "-" + padded(now.getDate(), 2) + "T"
-        + padded(now.getHours(), 2) + ":" + padded(now.getMinutes(), 2) + ":" + padded(now.getSeconds(), 2);
+    return formatDate(get("invoice/date"), "yyyy-MM-dd") + "T00:00:00";
 }
 
 function priceText(price)
