@@ -116,6 +116,18 @@
         <translation>Company %1 selected</translation>
     </message>
     <message>
+        <source>yritysten numerot luettelossa</source>
+        <translation>the companies' numbers on the list</translation>
+    </message>
+    <message>
+        <source>kaikki luettelon yritykset</source>
+        <translation>all companies on the list</translation>
+    </message>
+    <message>
+        <source>anna joko yritysten numerot tai --all</source>
+        <translation>give either companies' numbers or --all</translation>
+    </message>
+    <message>
         <source>yritykset, joilla on tietokanta</source>
         <translation>the companies that have a database</translation>
     </message>
@@ -130,6 +142,14 @@
     <message>
         <source>valitsee yrityksen, jota komennot koskevat</source>
         <translation>selects the company that commands are about</translation>
+    </message>
+    <message>
+        <source>päivittää tietokantojen rakenteen tämän ohjelman versioon</source>
+        <translation>brings databases to this program's version of the schema</translation>
+    </message>
+    <message>
+        <source>Jatkaa virheen jälkeen seuraavasta yrityksestä; jos jokin ei onnistunut, paluuarvo on 6.</source>
+        <translation>Goes on with the next company after an error; when one failed, the exit code is 6.</translation>
     </message>
     <message>
         <source>poistaa yrityksen luettelosta; tietokanta jää</source>
@@ -1104,8 +1124,8 @@ Overdue %4, %5</translation>
         <translation>settings file</translation>
     </message>
     <message>
-        <source>yrityksen numero tai SQLite-tiedosto</source>
-        <translation>number of a company or an SQLite file</translation>
+        <source>yrityksen numero, SQLite-tiedosto tai malli kuten "asiakas*"</source>
+        <translation>a company's number, an SQLite file, or a pattern such as "client*"</translation>
     </message>
     <message>
         <source>vastaus JSON-muodossa</source>
@@ -1162,6 +1182,10 @@ Overdue %4, %5</translation>
     <message>
         <source>ohjelman versio</source>
         <translation>version of the program</translation>
+    </message>
+    <message>
+        <source>Yritys</source>
+        <translation>Company</translation>
     </message>
     <message>
         <source>anna OTSIKKO=KENTTÄ</source>
@@ -1420,6 +1444,26 @@ Overdue %4, %5</translation>
         <translation>Selected</translation>
     </message>
     <message>
+        <source>Ennen</source>
+        <translation>Before</translation>
+    </message>
+    <message>
+        <source>tietokannan rakenteen versio ennen päivitystä</source>
+        <translation>the version of the schema before the upgrade</translation>
+    </message>
+    <message>
+        <source>Jälkeen</source>
+        <translation>After</translation>
+    </message>
+    <message>
+        <source>tietokannan rakenteen versio päivityksen jälkeen</source>
+        <translation>the version of the schema after the upgrade</translation>
+    </message>
+    <message>
+        <source>Virhe</source>
+        <translation>Error</translation>
+    </message>
+    <message>
         <source>Avain</source>
         <translation>Key</translation>
     </message>
@@ -1642,10 +1686,6 @@ Overdue %4, %5</translation>
     <message>
         <source>Avoinna</source>
         <translation>Balance</translation>
-    </message>
-    <message>
-        <source>Virhe</source>
-        <translation>Error</translation>
     </message>
     <message>
         <source>Sääntö</source>
@@ -2154,6 +2194,10 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
         <translation>option --quiet does not go with a format</translation>
     </message>
     <message>
+        <source>yritys %1: </source>
+        <translation>company %1: </translation>
+    </message>
+    <message>
         <source>Tarkoititko: </source>
         <translation>Did you mean: </translation>
     </message>
@@ -2412,6 +2456,10 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>asetuksia on useita: %1</source>
         <translation>several settings: %1</translation>
+    </message>
+    <message>
+        <source>komento koskee yhtä yritystä kerrallaan</source>
+        <translation>the command is for one company at a time</translation>
     </message>
     <message>
         <source>vahvistus puuttuu: anna valinta --yes</source>

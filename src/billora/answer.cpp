@@ -1,5 +1,6 @@
 #include "answer.h"
 
+#include "companycolumns.h"
 #include "integer.h"
 #include "problem.h"
 #include "suggestions.h"
@@ -68,13 +69,22 @@ bool Answer::choose(const RecordTable &table, bool whole, ProblemSink &sink)
     m_table = &table;
     m_fields.clear();
     m_members.reset();
-    if (m_options.fields.isEmpty())
+    QVector<const Field *> known;
+    if (m_hasCompanies) {
+        for (const Field &field : CompanyColumns::table)
+            known.append(&field);
+    }
+    if (m_options.fields.isEmpty()) {
+        m_fields = known;
         chooseUsual(table, whole);
+    }
+    for (const Field &field : table)
+        known.append(&field);
     for (const QString &name : qAsConst(m_options.fields)) {
         const int before = m_fields.size();
-        for (const Field &field : table) {
-            if (isNamed(field, name) && !m_fields.contains(&field))
-                m_fields.append(&field);
+        for (const Field *field : qAsConst(known)) {
+            if (isNamed(*field, name) && !m_fields.contains(field))
+                m_fields.append(field);
         }
         const bool isKnown =
             m_fields.size() > before || std::any_of(m_fields.begin(), m_fields.end(),
@@ -86,10 +96,10 @@ bool Answer::choose(const RecordTable &table, bool whole, ProblemSink &sink)
         problem.message = text(TEXT("kenttää ei ole: %1")).arg(name);
         problem.option = QStringLiteral("fields");
         problem.value = name;
-        QStringList known;
-        for (const Field &field : table)
-            known.append(QLatin1String(field.name));
-        const QStringList near = Suggestions::nearest(name, known);
+        QStringList names;
+        for (const Field *field : qAsConst(known))
+            names.append(QLatin1String(field->name));
+        const QStringList near = Suggestions::nearest(name, names);
         for (const QString &word : near)
             problem.suggestions.append({word, QString()});
         return sink.fail(problem);
@@ -122,10 +132,29 @@ bool Answer::shows(Field::Flag flag) const
     return std::any_of(m_fields.begin(), m_fields.end(), [flag](const Field *field) { return field->is(flag); });
 }
 
+void Answer::beginCompany(int number, const QString &name)
+{
+    flush();
+    m_hasCompanies = true;
+    CompanyColumns::set(number, name);
+}
+
+void Answer::endCompanies()
+{
+    m_hasCompanies = false;
+    if (m_isBegun)
+        endList();
+    else if (m_options.form == OutputForm::json && !m_options.quiet)
+        m_buffer += m_isFirst ? "[]\n" : "\n]\n";
+}
+
 bool Answer::beginList(const RecordTable &table, ProblemSink &sink)
 {
+    if (m_isBegun)
+        return true;
     if (!choose(table, false, sink))
         return false;
+    m_isBegun = m_hasCompanies;
     m_isFirst = true;
     m_buffer.reserve(pieceSize + roomForRecord);
     if (m_options.quiet)
@@ -136,6 +165,8 @@ bool Answer::beginList(const RecordTable &table, ProblemSink &sink)
         writeCsvLine([](const Field &field) { return QString::fromLatin1(field.name); });
     else if (isText() && m_options.isTerminal)
         m_columns = std::make_unique<TableWriter>(m_fields, m_options.width, m_options.hasColor);
+    if (m_isBegun)
+        flush();
     return true;
 }
 
@@ -145,16 +176,19 @@ bool Answer::add(const void *record)
         m_columns->add(record);
         return true;
     }
-    if (m_options.form == OutputForm::json && !m_options.quiet)
+    if (m_options.form == OutputForm::json && !m_options.quiet) {
         m_buffer += m_isFirst ? "\n" : ",\n";
-    m_isFirst = false;
+        m_isFirst = false;
+    }
     writeRecord(record);
     return m_buffer.size() < pieceSize || flush();
 }
 
 void Answer::endList()
 {
-    if (m_columns) {
+    if (m_hasCompanies) {
+        flush(); // each company's part by itself: take() leaves those before
+    } else if (m_columns) {
         m_buffer += m_columns->text().toUtf8();
         m_columns.reset();
     } else if (m_options.form == OutputForm::json && !m_options.quiet) {
@@ -196,6 +230,8 @@ void Answer::endMembers(JsonWriter &json) const
 void Answer::writeRecord(const void *record)
 {
     if (m_options.quiet) {
+        if (m_hasCompanies)
+            m_buffer += QByteArray::number(CompanyColumns::number()) + '\t';
         m_buffer += handleOf(record).toUtf8() + '\n';
         return;
     }
@@ -304,12 +340,18 @@ void Answer::object(const std::function<void(JsonWriter &)> &members, const QStr
             line(m_options.isDryRun ? sentence + QStringLiteral(" (--dry-run)") : sentence);
         return;
     }
+    const bool isElement = m_hasCompanies && m_options.form == OutputForm::json;
+    if (isElement) {
+        m_buffer += m_isFirst ? "[\n" : ",\n";
+        m_isFirst = false;
+    }
     JsonWriter json(m_buffer);
     json.beginObject();
     members(json);
     endMembers(json);
     json.endObject();
-    m_buffer += '\n';
+    if (!isElement)
+        m_buffer += '\n';
 }
 
 void Answer::removed(const QStringList &handles)
@@ -358,6 +400,7 @@ bool Answer::flush()
     if (m_buffer.isEmpty() || m_isReaderGone)
         return !m_isReaderGone;
     m_wasWritten = true;
+    m_wasFirst = m_isFirst;
     m_isReaderGone = !m_sink(m_buffer);
     m_buffer.resize(0); // keeps the memory for the next piece
     return !m_isReaderGone;
@@ -366,6 +409,8 @@ bool Answer::flush()
 bool Answer::take()
 {
     m_buffer.clear();
-    m_columns.reset();
+    m_isFirst = m_wasFirst;
+    if (!m_hasCompanies)
+        m_columns.reset();
     return !m_wasWritten;
 }

@@ -54,6 +54,14 @@ public:
     /** Marks the answer as given before: the record is told as it is now. */
     void setReplayed() { m_isReplayed = true; }
 
+    /**
+     * From now on the answer goes through several companies: one list, with the company in front of each record, and an
+     * object for each where the command answers with one. What was told before of other companies is written.
+     */
+    void beginCompany(int number, const QString &name);
+    /** Ends what beginCompany() began, also where no company was begun. */
+    void endCompanies();
+
     /** Begins a list. @return false, with the problem told, when a wanted field is none of the table's */
     [[nodiscard]] bool beginList(const RecordTable &table, ProblemSink &sink);
     /** Whether the list shows a field with the flag, as those that need the rows of an invoice. */
@@ -79,7 +87,8 @@ public:
 
     /** Writes what is gathered. @return false when nobody reads any more */
     bool flush();
-    /** Takes back what is not written yet. @return whether everything could be taken back */
+    /** Takes back what is not written yet, of several companies what the last one has told. @return whether everything
+     * could be taken back */
     bool take();
     bool isReaderGone() const { return m_isReaderGone; }
 
@@ -109,6 +118,9 @@ private:
     bool m_isFirst = true;                  ///< no record of the list was added yet
     bool m_wasWritten = false;              ///< take() can no longer take all back
     bool m_isReaderGone = false;            ///< nothing is written from then on
+    bool m_hasCompanies = false;            ///< see beginCompany()
+    bool m_wasFirst = true;                 ///< m_isFirst when the buffer was written last
+    bool m_isBegun = false;                 ///< of several companies one has begun its list
     bool m_isReplayed = false;              ///< see setReplayed()
 };
 

@@ -49,16 +49,17 @@ template <std::size_t n> constexpr OptionGroup group(const Option (&options)[n])
 struct Command {
     /** Bits of `flags`. */
     enum Flag : unsigned {
-        writes = 1,      ///< changes the database
-        destructive = 2, ///< removes records
-        noCompany = 4,   ///< works without a database
-        paints = 8,      ///< draws documents: needs fonts
-        lists = 16,      ///< answers with a list of records
-        single = 32,     ///< not in a batch
-        eachOnly = 64,   ///< in a batch only with --each
-        adds = 128,      ///< required fields must be given
-        keyed = 256,     ///< takes --key
-        asks = 512,      ///< asks a person at a terminal for what is missing
+        writes = 1,       ///< changes the database
+        destructive = 2,  ///< removes records
+        noCompany = 4,    ///< works without a database
+        paints = 8,       ///< draws documents: needs fonts
+        lists = 16,       ///< answers with a list of records
+        single = 32,      ///< not in a batch
+        eachOnly = 64,    ///< in a batch only with --each
+        adds = 128,       ///< required fields must be given
+        keyed = 256,      ///< takes --key
+        companies = 1024, ///< goes through several companies, whose records it only reads
+        asks = 512,       ///< asks a person at a terminal for what is missing
     };
 
     const char *name;                    ///< "invoice add"

@@ -33,7 +33,8 @@ constexpr Choice languageChoices[] = {{"fi", TEXT("suomi")}, {"en", TEXT("englan
 
 constexpr Option globalRows[] = {
     {"config", ValueType::file, TEXT("asetustiedosto"), 0, nullptr, 'c'},
-    {"db", ValueType::text, TEXT("yrityksen numero tai SQLite-tiedosto"), 0, nullptr, 0, "NUMBER|FILE"},
+    {"db", ValueType::text, TEXT("yrityksen numero, SQLite-tiedosto tai malli kuten \"asiakas*\""), 0, nullptr, 0,
+     "NUMBER|FILE|PATTERN"},
     {"json", ValueType::flag, TEXT("vastaus JSON-muodossa")},
     {"jsonl", ValueType::flag, TEXT("vastaus JSON-riveinä, yksi tietue rivillä")},
     {"csv", ValueType::flag, TEXT("vastaus CSV-muodossa")},

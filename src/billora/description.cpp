@@ -1,6 +1,7 @@
 #include "description.h"
 
 #include "commandtable.h"
+#include "companycolumns.h"
 #include "jsonwriter.h"
 #include "problem.h"
 #include "records.h"
@@ -10,9 +11,9 @@
 
 namespace {
 
-const RecordTable *const tables[] = {&invoiceTable, &rowTable,     &vatRateTable, &customerTable, &productTable,
-                                     &accountTable, &paymentTable, &companyTable, &settingTable,  &layoutTable,
-                                     &findingTable, &importTable,  &fileTable,    &checkTable};
+const RecordTable *const tables[] = {&invoiceTable, &rowTable,     &vatRateTable, &customerTable,       &productTable,
+                                     &accountTable, &paymentTable, &companyTable, &companyUpgradeTable, &settingTable,
+                                     &layoutTable,  &findingTable, &importTable,  &fileTable,           &checkTable};
 
 bool isWhole(ValueType type)
 {
@@ -106,6 +107,12 @@ void writeObjectSchema(JsonWriter &json, const RecordTable &table)
         json.endObject();
         json.endObject();
     }
+    if (!table.find(QStringLiteral("company")) && table.name != companyTable.name) { // of several companies
+        json.name("company");
+        json.beginObject();
+        writeObjectSchema(json, CompanyColumns::table);
+        json.endObject();
+    }
     json.name("dryRun");
     json.beginObject();
     json.member("type", "boolean");
@@ -152,6 +159,7 @@ void writeCommand(JsonWriter &json, const Command &command)
     json.member("destructive", command.is(Command::destructive));
     json.member("batch", !command.is(Command::single) && !command.is(Command::eachOnly));
     json.member("key", command.is(Command::keyed));
+    json.member("companies", command.is(Command::companies));
     json.name("words");
     json.beginArray();
     const QVector<const Option *> words = CommandTable::plainWords(command);

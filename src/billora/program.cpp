@@ -1,7 +1,9 @@
 #include "program.h"
 
 #include "commandtable.h"
+#include "companies.h"
 #include "completer.h"
+#include "databaselist.h"
 #include "helptext.h"
 #include "language.h"
 #include "runner.h"
@@ -180,6 +182,8 @@ int Program::complete(const QStringList &before, QStringList words)
 
 int Program::execute(const Command &command, const Arguments &arguments)
 {
+    if (!command.is(Command::noCompany) && Companies::isPattern(m_session.chosenDatabase()))
+        return executeForEach(command, arguments);
     Answer answer(m_options, writeOutput);
     Runner runner(m_session);
     int exitCode = 0;
@@ -192,10 +196,58 @@ int Program::execute(const Command &command, const Arguments &arguments)
     return done ? exitCode : report(m_session.problem());
 }
 
-int Program::report(const Problem &problem) const
+/** A company that fails must not hide what the others have to tell, nor be overlooked itself. */
+int Program::executeForEach(const Command &command, const Arguments &arguments)
+{
+    const QString pattern = m_session.chosenDatabase();
+    Answer answer(m_options, writeOutput);
+    Runner runner(m_session);
+    Task task(m_session, command, arguments, answer, m_manners);
+    if (!command.is(Command::companies))
+        return task.failSeveralCompanies(), report(m_session.problem());
+    const DatabaseList list(m_session.settingsFile(), DatabaseList::reading);
+    bool isFound = false;
+    int exitCode = 0;
+    for (const QVariantMap &entry : list.entries()) {
+        m_session.clearProblem();
+        Companies::Look look;
+        const bool isMatch = Companies::isMatch(entry, pattern);
+        const bool isRead = Companies::look(m_session.context(), entry, look);
+        if (isRead && !isMatch && !Companies::isNameMatch(look.sellerName, pattern))
+            continue;
+        isFound = true;
+        int code = 0;
+        answer.beginCompany(DatabaseList::number(entry), look.sellerName);
+        const bool done =
+            isRead && m_session.openCompany(entry) && runner.run(command, arguments, answer, m_manners, m_key, code);
+        exitCode = std::max(exitCode, done ? code : exitNeedsLook);
+        if (done)
+            continue;
+        answer.take();
+        const Problem::Code reason = m_session.problem().code;
+        const bool isOfTheLine =
+            m_session.problem().exitCode() == 1 || reason == Problem::badValue || reason == Problem::badJson;
+        if (isOfTheLine) // the others would say the same
+            return report(m_session.problem());
+        report(m_session.problem(), DatabaseList::number(entry));
+        if (answer.isReaderGone())
+            break;
+    }
+    m_session.context().session.closeDatabase();
+    if (!isFound)
+        return m_session.fail(Failure::databaseNumberUnknown, {pattern}), report(m_session.problem());
+    answer.endCompanies();
+    answer.flush();
+    return exitCode;
+}
+
+int Program::report(const Problem &problem, int company) const
 {
     if (m_options.form == OutputForm::text) {
-        QString lines = QStringLiteral("billora: ") + problem.message;
+        QString lines = QStringLiteral("billora: ");
+        if (company > 0)
+            lines += text(TEXT("yritys %1: ")).arg(company);
+        lines += problem.message;
         const QString indent = QStringLiteral("\n  ");
         for (int i = 0; i < problem.suggestions.size(); ++i) {
             const Problem::Suggestion &suggestion = problem.suggestions.at(i);
@@ -211,6 +263,12 @@ int Program::report(const Problem &problem) const
     QByteArray bytes;
     JsonWriter json(bytes);
     json.beginObject();
+    if (company > 0) {
+        json.name("company");
+        json.beginObject();
+        json.member("number", company);
+        json.endObject();
+    }
     json.name("error");
     problem.write(json);
     json.endObject();

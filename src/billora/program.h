@@ -26,8 +26,11 @@ private:
     int complete(const QStringList &before, QStringList words);
     /** @return the exit code; an answer that was not written is taken back on failure. */
     int execute(const Command &command, const Arguments &arguments);
-    /** To standard error, as JSON in the machine forms. @return the exit code of the problem */
-    int report(const Problem &problem) const;
+    /** The same in each company that the pattern of `--db` names, with the answers in one. */
+    int executeForEach(const Command &command, const Arguments &arguments);
+    /** To standard error, as JSON in the machine forms. @param company  its number, 0 for none. @return the exit code
+     * of the problem */
+    int report(const Problem &problem, int company = 0) const;
 
     Session m_session;       ///< opened when the first command needs it
     AnswerOptions m_options; ///< of the global options

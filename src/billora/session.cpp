@@ -1,10 +1,12 @@
 #include "session.h"
 
+#include "databaselist.h"
 #include "failuresentences.h"
 #include "integer.h"
 #include "terminal.h"
 #include "texts.h"
 
+#include <QFileInfo>
 #include <QSettings>
 
 Session::Session() : m_context(std::make_unique<UseCaseContext>(m_registry, *this)) {}
@@ -19,9 +21,30 @@ void Session::choose(const QString &settingsFile, const QString &database)
 
 QString Session::settingsFile() const { return m_registry.appSettings()->fileName(); }
 
+bool Session::openCompany(const QVariantMap &entry)
+{
+    m_entry = entry;
+    return m_context->session.openEntry(entry);
+}
+
+QVariantMap Session::companyEntry(const DatabaseList &list) const
+{
+    if (!m_entry.isEmpty())
+        return m_entry;
+    bool isNumber = m_database.isEmpty();
+    const int number = isNumber ? list.lastUsed() : Integer::parse(m_database, isNumber);
+    if (!isNumber)
+        return {{QStringLiteral("filename"), QFileInfo(m_database).absoluteFilePath()}};
+    for (const QVariantMap &entry : list.entries()) {
+        if (DatabaseList::number(entry) == number)
+            return entry;
+    }
+    return QVariantMap();
+}
+
 bool Session::open()
 {
-    if (m_database.isEmpty())
+    if (m_database.isEmpty() || (!m_entry.isEmpty() && m_context->session.database()))
         return m_context->session.ensureOpen();
     bool isNumber = false;
     const int number = Integer::parse(m_database, isNumber);

@@ -6,7 +6,11 @@
 #include "usecasecontext.h"
 #include "valuereader.h"
 
+#include <QVariantMap>
+
 #include <memory>
+
+class DatabaseList;
 
 /**
  * The company that commands work on, for the life of the program: the use cases with their failures turned into
@@ -27,6 +31,13 @@ public:
     Registry &registry() { return m_registry; }
     QString settingsFile() const; ///< its path, also when there is no such file
 
+    const QString &chosenDatabase() const { return m_database; } ///< as given to choose()
+
+    /** Takes the place of the chosen company; entries are of the form of DatabaseList. @return as open() */
+    [[nodiscard]] bool openCompany(const QVariantMap &entry);
+    /** The entry of what is open, by the list of the settings file; of an unlisted file one with the file alone. */
+    QVariantMap companyEntry(const DatabaseList &list) const;
+
     /** Opens the chosen company unless that is done. @return false with the problem set */
     [[nodiscard]] bool open();
 
@@ -44,6 +55,7 @@ private:
     std::unique_ptr<UseCaseContext> m_context; ///< refers to the registry
     Problem m_problem;                         ///< not set until a failure
     QString m_database;                        ///< as chosen; empty: the last used
+    QVariantMap m_entry;                       ///< of openCompany(); empty: the chosen company
     bool m_isVerbose = false;                  ///< notices are told
 };
 

@@ -19,6 +19,12 @@ bool Task::fail(Problem::Code code, const QString &message, const QString &optio
     return session.fail(problem);
 }
 
+bool Task::failSeveralCompanies()
+{
+    return fail(Problem::conflict, text(TEXT("komento koskee yhtä yritystä kerrallaan")), QStringLiteral("db"),
+                session.chosenDatabase());
+}
+
 bool Task::confirm(const QString &question, int count, bool all)
 {
     if (manners.agreesToAll || manners.isDryRun)

@@ -41,6 +41,9 @@ public:
               const QString &value = QString());
     bool fail(const Problem &problem) { return session.fail(problem); }
 
+    /** Tells that what is to be done is done in one company at a time. @return false */
+    bool failSeveralCompanies();
+
     /** Whether a flag of the command was given. */
     bool flag(const char *name) const { return ValueReader::isTrue(arguments.text(name)); }
 

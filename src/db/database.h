@@ -35,8 +35,11 @@ public:
     /** A missing database is made by open(); otherwise it is not, and exists() tells. */
     void setCreateIfNotExist(bool create) { m_createIfNotExist = create; }
     bool isCreateIfNotExist() const { return m_createIfNotExist; }
-    /** Whether open() upgrades an older schema; it fails otherwise. */
-    void setUpgradeAllowed(bool isAllowed) { m_isUpgradeAllowed = isAllowed; }
+    /** What open() does with an older schema: upgrade it, fail, or leave it as it is, for a look at its version. */
+    enum class OlderSchema { upgraded, refused, kept };
+    void setOlderSchema(OlderSchema older) { m_olderSchema = older; }
+    /** The version that open() found, before any upgrade; 0 when there was none to read. */
+    int foundVersion() const { return m_foundVersion; }
     /** A glance opens an SQLite file for reading only and fails at once where another program holds it. */
     void setGlance(bool isGlance) { m_isGlance = isGlance; }
 
@@ -106,11 +109,12 @@ protected:
     virtual bool isSQLite() const = 0;
     virtual QString creationScript() const = 0;
 
-    const QString m_connectionName;  ///< of the library's list of connections
-    bool m_createIfNotExist = false; ///< see setCreateIfNotExist()
-    bool m_exists = false;           ///< see exists()
-    bool m_isUpgradeAllowed = true;  ///< see setUpgradeAllowed()
-    bool m_isGlance = false;         ///< see setGlance()
+    const QString m_connectionName;                    ///< of the library's list of connections
+    bool m_createIfNotExist = false;                   ///< see setCreateIfNotExist()
+    bool m_exists = false;                             ///< see exists()
+    bool m_isGlance = false;                           ///< see setGlance()
+    int m_foundVersion = 0;                            ///< see foundVersion()
+    OlderSchema m_olderSchema = OlderSchema::upgraded; ///< see setOlderSchema()
 
 private:
     QString m_lastError; ///< empty: the connection tells its own

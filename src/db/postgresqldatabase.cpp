@@ -66,7 +66,7 @@ bool PostgreSQLDatabase::open(QSettings *settings)
         return fail(limit.lastError().text());
 
     const int version = upgrade();
-    if (version == noTables)
+    if (version == noTables && m_olderSchema != OlderSchema::kept)
         return createTables(settings->value(QStringLiteral("name")).toString());
     return version >= noSettingsRow;
 }
@@ -108,9 +108,10 @@ int PostgreSQLDatabase::upgrade()
     if (!query.next())
         return noSettingsRow;
     const int version = query.value(0).toInt();
-    if (version < 1 || version >= schemaVersion)
+    m_foundVersion = version;
+    if (version < 1 || version >= schemaVersion || m_olderSchema == OlderSchema::kept)
         return version;
-    if (!m_isUpgradeAllowed) {
+    if (m_olderSchema == OlderSchema::refused) {
         fail(tr("Tietokannan rakenne on vanha"));
         return upgradeFailed;
     }

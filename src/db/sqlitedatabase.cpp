@@ -111,9 +111,10 @@ bool SQLiteDatabase::upgrade(const QString &filename)
     std::optional<int> version = storedVersion();
     if (!version)
         return fail(tr("Tietokantaa %1 ei voi lukea: %2").arg(filename, lastError()));
-    if (*version < 1 || *version >= schemaVersion)
+    m_foundVersion = *version;
+    if (*version < 1 || *version >= schemaVersion || m_olderSchema == OlderSchema::kept)
         return true;
-    if (!m_isUpgradeAllowed)
+    if (m_olderSchema == OlderSchema::refused)
         return fail(tr("Tietokannan %1 rakenne on vanha").arg(filename));
     // One program at a time: two that run the same steps would write each other's version numbers. A lock of the
     // database itself would not outlive the copying of the file.

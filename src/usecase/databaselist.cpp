@@ -3,6 +3,7 @@
 #include "settingsfile.h"
 
 #include <QElapsedTimer>
+#include <QSet>
 #include <QThread>
 
 #include <algorithm>
@@ -71,8 +72,11 @@ int DatabaseList::indexOf(int wanted) const
 
 int DatabaseList::nextFreeNumber() const
 {
+    QSet<int> taken; // asked of a long list, too
+    for (const QVariantMap &entry : m_entries)
+        taken.insert(number(entry));
     int free = 1;
-    while (contains(free))
+    while (taken.contains(free))
         ++free;
     return free;
 }

@@ -93,6 +93,8 @@ bool DatabaseSession::openEntry(const QVariantMap &entry)
 {
     closeDatabase();
     m_lostNumber.reset();
+    for (ListState &list : m_lists) // the stored scripts too: a run may go through several companies
+        list = ListState();
     // Opening would leave an empty file.
     const QString filename = entry.value(QStringLiteral("filename")).toString();
     if (!m_isCreating && !filename.isEmpty() && !QFile::exists(filename))
@@ -120,7 +122,9 @@ bool DatabaseSession::openAt(QSettings *settings)
         m_database = std::make_unique<SQLiteDatabase>();
     }
     m_database->setCreateIfNotExist(m_isCreating);
-    m_database->setUpgradeAllowed(!m_isTrial);
+    m_database->setOlderSchema(m_isLook    ? Database::OlderSchema::kept
+                               : m_isTrial ? Database::OlderSchema::refused
+                                           : Database::OlderSchema::upgraded);
     m_database->setGlance(m_isGlance);
     const bool opened = m_database->open(settings);
     if (!opened || !m_database->exists()) {

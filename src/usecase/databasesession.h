@@ -72,6 +72,8 @@ public:
     /** Databases opened from now on are looked at only, without waiting for others, see Database::setGlance(). */
     void setGlance(bool isGlance) { m_isGlance = isGlance; }
     bool isTrial() const { return m_isTrial; }
+    /** Databases opened from now on keep an older schema as it is: only version and seller are of interest. */
+    void setLook(bool isLook) { m_isLook = isLook; }
 
     /**
      * An outer transaction: those of single commands begin and end within it, until it is ended by end() of its owner.
@@ -99,7 +101,7 @@ private:
 
     /** Place in the file's list, -1 for none; a number below 1 is the last used, else the first. */
     int findDatabaseIndex(int number) const;
-    bool openAt(QSettings *settings);     ///< positioned on the keys of a database; closes again on failure
+    bool openAt(QSettings *settings); ///< positioned on the keys of a database; closes again on failure
 
     Registry &m_registry;                 ///< not owned
     UseCaseListener &m_listener;          ///< not owned
@@ -110,6 +112,7 @@ private:
     bool m_isSuspect = false;             ///< a statement failed: the connection may be gone
     bool m_isTrial = false;               ///< see setTrial()
     bool m_isGlance = false;              ///< see setGlance()
+    bool m_isLook = false;                ///< see setLook()
     bool m_isCreating = false;            ///< see setCreating()
     bool m_isEnclosed = false;            ///< see setEnclosed()
     std::optional<int> m_lostNumber;      ///< as m_number, of a database whose connection is gone

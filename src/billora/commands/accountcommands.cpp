@@ -69,7 +69,7 @@ constexpr Command commands[] = {
     {"account list",
      TEXT("yrityksen pankkitilit"),
      list,
-     Command::lists,
+     Command::lists | Command::companies,
      &accountTable,
      nullptr,
      {group(searchOptions), group(fullOption)},

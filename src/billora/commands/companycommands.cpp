@@ -1,5 +1,6 @@
 #include "commandgroups.h"
 
+#include "companies.h"
 #include "databaselist.h"
 #include "recordlist.h"
 #include "records.h"
@@ -13,22 +14,6 @@
 #include <QSettings>
 
 namespace {
-
-CompanyRecord recordOf(const QVariantMap &entry, int lastUsed)
-{
-    const auto value = [&entry](const char *key) { return entry.value(QLatin1String(key)).toString(); };
-    CompanyRecord record;
-    record.number = DatabaseList::number(entry);
-    record.isPostgreSQL = DatabaseList::isPostgreSQL(entry);
-    record.isSelected = record.number == lastUsed;
-    if (record.isPostgreSQL) {
-        record.host = value("host");
-        record.database = value("databaseName");
-    } else {
-        record.file = value("filename");
-    }
-    return record;
-}
 
 /** The entry of a number in the list. @return false with the problem told */
 bool find(Task &task, const DatabaseList &list, int number, QVariantMap &entry)
@@ -62,7 +47,7 @@ bool list(Task &task)
     const DatabaseList list(task.session.settingsFile(), DatabaseList::reading);
     QVector<CompanyRecord> records;
     for (const QVariantMap &entry : list.entries())
-        records.append(recordOf(entry, list.lastUsed()));
+        records.append(CompanyRecord::of(entry, list.lastUsed()));
     return RecordList::answer(task, companyTable, records);
 }
 
@@ -86,7 +71,7 @@ bool show(Task &task)
     QVariantMap entry;
     if (!find(task, list, number, entry))
         return false;
-    const CompanyRecord record = recordOf(entry, list.lastUsed());
+    const CompanyRecord record = CompanyRecord::of(entry, list.lastUsed());
     return task.answer.show(companyTable, &record, task.session);
 }
 
@@ -137,7 +122,7 @@ bool add(Task &task)
         list.setLastUsed(number);
     if (!save(task, list))
         return false;
-    const CompanyRecord record = recordOf(entry, list.lastUsed());
+    const CompanyRecord record = CompanyRecord::of(entry, list.lastUsed());
     return task.answer.saved(companyTable, &record, text(TEXT("Yritys %1 lisätty luetteloon")).arg(number),
                              task.session);
 }
@@ -152,7 +137,7 @@ bool use(Task &task)
     list.setLastUsed(number);
     if (!save(task, list))
         return false;
-    const CompanyRecord record = recordOf(entry, number);
+    const CompanyRecord record = CompanyRecord::of(entry, number);
     return task.answer.saved(companyTable, &record, text(TEXT("Yritys %1 valittu")).arg(number), task.session);
 }
 
@@ -167,6 +152,50 @@ bool forget(Task &task)
     if (!save(task, list))
         return false;
     task.answer.removed({QString::number(number)});
+    return true;
+}
+
+constexpr Option upgradeWords[] = {
+    {"companies", ValueType::integer, TEXT("yritysten numerot luettelossa"),
+     Option::plainWord | Option::list | Option::onlyWord, nullptr, 0, "NUMBER"},
+    {"all", ValueType::flag, TEXT("kaikki luettelon yritykset")},
+};
+
+/** Goes on after a company that cannot be upgraded: the others must not wait for it. */
+bool upgrade(Task &task)
+{
+    const DatabaseList list(task.session.settingsFile(), DatabaseList::reading);
+    QList<QVariantMap> entries;
+    const QStringList words = task.arguments.texts("companies");
+    for (const QString &word : words) {
+        int number = 0;
+        QVariantMap entry;
+        if (!task.reader.number(QStringLiteral("companies"), ValueType::integer, word, number) ||
+            !find(task, list, number, entry))
+            return false;
+        entries.append(entry);
+    }
+    if (task.flag("all") != entries.isEmpty())
+        return task.fail(entries.isEmpty() ? Problem::missingSelection : Problem::conflict,
+                         text(TEXT("anna joko yritysten numerot tai --all")), QStringLiteral("companies"));
+    if (!task.answer.beginList(companyUpgradeTable, task.session))
+        return false;
+    for (const QVariantMap &entry : task.flag("all") ? list.entries() : entries) {
+        CompanyUpgradeRecord record;
+        Companies::Upgrade result;
+        record.number = DatabaseList::number(entry);
+        if (!Companies::upgrade(task.context(), entry, result)) {
+            record.error = task.session.problem().message;
+            task.session.clearProblem();
+            task.exitCode = exitNeedsLook;
+        }
+        record.name = result.sellerName;
+        record.before = result.before;
+        record.after = result.after;
+        if (!task.answer.add(&record))
+            break;
+    }
+    task.answer.endList();
     return true;
 }
 
@@ -205,6 +234,15 @@ constexpr Command commands[] = {
      nullptr,
      {group(companyWord)},
      "company use 1"},
+    {"company upgrade",
+     TEXT("päivittää tietokantojen rakenteen tämän ohjelman versioon"),
+     upgrade,
+     flags | Command::writes | Command::lists,
+     &companyUpgradeTable,
+     nullptr,
+     {group(upgradeWords)},
+     "company upgrade --all -n\ncompany upgrade 1",
+     TEXT("Jatkaa virheen jälkeen seuraavasta yrityksestä; jos jokin ei onnistunut, paluuarvo on 6.")},
     {"company forget",
      TEXT("poistaa yrityksen luettelosta; tietokanta jää"),
      forget,

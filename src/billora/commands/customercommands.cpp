@@ -137,7 +137,7 @@ constexpr Command commands[] = {
     {"customer list",
      TEXT("luettelo asiakkaista"),
      list,
-     Command::lists,
+     Command::lists | Command::companies,
      &customerTable,
      nullptr,
      {group(searchOptions), group(fullOption)},

@@ -191,7 +191,7 @@ constexpr Command commands[] = {
     {"layout list",
      TEXT("laskupohjat ja Finvoice-kirjoittimet"),
      list,
-     Command::lists,
+     Command::lists | Command::companies,
      &layoutTable,
      nullptr,
      {group(searchOptions), group(fullOption)},

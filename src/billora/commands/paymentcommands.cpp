@@ -252,7 +252,7 @@ constexpr Command commands[] = {
     {"payment list",
      TEXT("luettelo suorituksista"),
      list,
-     Command::lists,
+     Command::lists | Command::companies,
      &paymentTable,
      nullptr,
      {group(listOptions), group(fullOption)},

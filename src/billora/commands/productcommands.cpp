@@ -90,7 +90,7 @@ constexpr Command commands[] = {
     {"product list",
      TEXT("luettelo tuotteista"),
      list,
-     Command::lists,
+     Command::lists | Command::companies,
      &productTable,
      nullptr,
      {group(searchOptions), group(listOptions), group(fullOption)},

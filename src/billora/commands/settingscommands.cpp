@@ -241,7 +241,7 @@ constexpr Command commands[] = {
     {"settings list",
      TEXT("yrityksen tiedot ja asetukset"),
      list,
-     Command::lists,
+     Command::lists | Command::companies,
      &settingTable,
      nullptr,
      {group(listOptions)},

@@ -1,5 +1,6 @@
 #include "commandgroups.h"
 
+#include "companies.h"
 #include "createdatabase.h"
 #include "database.h"
 #include "databasecheck.h"
@@ -275,20 +276,7 @@ bool status(Task &task)
     };
     task.answer.object(
         [&](JsonWriter &json) {
-            CompanyRecord record;
-            for (const QVariantMap &entry : list.entries()) {
-                if (DatabaseList::number(entry) != list.lastUsed())
-                    continue;
-                record.number = DatabaseList::number(entry);
-                record.isPostgreSQL = DatabaseList::isPostgreSQL(entry);
-                record.isSelected = true;
-                if (record.isPostgreSQL) {
-                    record.host = entry.value(QStringLiteral("host")).toString();
-                    record.database = entry.value(QStringLiteral("databaseName")).toString();
-                } else {
-                    record.file = entry.value(QStringLiteral("filename")).toString();
-                }
-            }
+            const CompanyRecord record = CompanyRecord::of(task.session.companyEntry(list), list.lastUsed());
             json.name("company");
             json.beginObject();
             QVector<const Field *> fields;
@@ -323,6 +311,8 @@ constexpr Option checkOptions[] = {
 bool check(Task &task)
 {
     const bool repair = task.flag("repairTotals");
+    if (repair && Companies::isPattern(task.session.chosenDatabase()))
+        return task.failSeveralCompanies();
     if (repair && !task.confirm(text(TEXT("Korjataanko laskujen summat rivien ja suoritusten mukaan?")), 1, false))
         return false;
     DatabaseCheck check = task.context().session.database()->check();
@@ -405,11 +395,11 @@ constexpr Command commands[] = {
      "pv netto\"\n"
      "init --name \"Saimaan Kirjansitomo Oy\" --postgresql postgresql://billora@palvelin/saimaa --password-file "
      "salasana.txt"},
-    {"status", TEXT("yritys, avoimet ja erääntyneet"), status, 0, nullptr, nullptr, {}, "status"},
+    {"status", TEXT("yritys, avoimet ja erääntyneet"), status, Command::companies, nullptr, nullptr, {}, "status"},
     {"check",
      TEXT("tarkistaa tiedoston, rakenteen ja kirjat"),
      check,
-     Command::lists,
+     Command::lists | Command::companies,
      &findingTable,
      nullptr,
      {group(checkOptions)},

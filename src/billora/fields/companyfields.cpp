@@ -1,3 +1,4 @@
+#include "databaselist.h"
 #include "fieldgetters.h"
 #include "importedpayment.h"
 #include "records.h"
@@ -29,6 +30,20 @@ constexpr Field companyFields[] = {
     {"database", ValueType::text, TEXT("Tietokanta"), nullptr, shown,
      optionalText<CompanyRecord, &CompanyRecord::database>},
     {"selected", ValueType::flag, TEXT("Valittu"), nullptr, shown, value<&CompanyRecord::isSelected>},
+};
+
+using U = CompanyUpgradeRecord;
+
+Value versionOrNull(int version) { return version > 0 ? Value(version) : Value(); }
+
+constexpr Field upgradeFields[] = {
+    {"number", ValueType::integer, TEXT("Numero"), nullptr, shown | Field::handle, value<&U::number>},
+    {"name", ValueType::text, TEXT("Nimi"), nullptr, shown, optionalText<U, &U::name>},
+    {"before", ValueType::integer, TEXT("Ennen"), TEXT("tietokannan rakenteen versio ennen päivitystä"), shown,
+     [](const void *r) { return versionOrNull(static_cast<const U *>(r)->before); }},
+    {"after", ValueType::integer, TEXT("Jälkeen"), TEXT("tietokannan rakenteen versio päivityksen jälkeen"), shown,
+     [](const void *r) { return versionOrNull(static_cast<const U *>(r)->after); }},
+    {"error", ValueType::text, TEXT("Virhe"), nullptr, shown, optionalText<U, &U::error>},
 };
 
 constexpr Field settingFields[] = {
@@ -96,7 +111,24 @@ template <std::size_t n> constexpr RecordTable tableOf(const char *name, const F
 
 } // namespace
 
+CompanyRecord CompanyRecord::of(const QVariantMap &entry, int lastUsed)
+{
+    const auto value = [&entry](const char *key) { return entry.value(QLatin1String(key)).toString(); };
+    CompanyRecord record;
+    record.number = DatabaseList::number(entry);
+    record.isPostgreSQL = DatabaseList::isPostgreSQL(entry);
+    record.isSelected = record.number > 0 && record.number == lastUsed;
+    if (record.isPostgreSQL) {
+        record.host = value("host");
+        record.database = value("databaseName");
+    } else {
+        record.file = value("filename");
+    }
+    return record;
+}
+
 const RecordTable companyTable = tableOf("company", companyFields, "number,type,file,host,database,selected");
+const RecordTable companyUpgradeTable = tableOf("companyUpgrade", upgradeFields, "number,name,before,after,error");
 const RecordTable settingTable = tableOf("setting", settingFields, "key,value,description");
 const RecordTable layoutTable = tableOf("layout", layoutFields, "id,type,name,selected");
 const RecordTable findingTable = tableOf("finding", findingFields, "check,table,id,message");

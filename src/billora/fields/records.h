@@ -9,6 +9,7 @@
 #include "payment.h"
 #include "product.h"
 
+#include <QVariantMap>
 #include <QVector>
 
 // What the field tables read: records of the database with what belongs to them.
@@ -73,10 +74,21 @@ struct FileRecord {
 
 /** A database on the list of the settings file. */
 struct CompanyRecord {
+    /** @param entry  of the form of DatabaseList; one without a number is not on the list */
+    static CompanyRecord of(const QVariantMap &entry, int lastUsed);
+
     int number = 0;               ///< in the list, from 1
     bool isPostgreSQL = false;    ///< else SQLite
     QString file, host, database; ///< null where they do not apply
     bool isSelected = false;      ///< used when no company is named
+};
+
+/** What the upgrade of a company's database did. */
+struct CompanyUpgradeRecord {
+    int number = 0;            ///< in the list
+    QString name;              ///< the seller's, null when the database could not be read
+    int before = 0, after = 0; ///< versions of the schema; 0 is not known
+    QString error;             ///< null for none
 };
 
 /** A setting as it is told: the description is in the language of the run, the value as the type is typed. */
@@ -116,7 +128,8 @@ extern const Choice invoiceStates[];
 /**
  * The fields of each kind of record: a getter must be given the address of a record of that kind.
  * CustomerRecord, ProductRecord, AccountRecord, PaymentRecord, RowRecord, VatRateRecord, InvoiceRecord, FileRecord,
- * CheckRecord, CompanyRecord, SettingRecord, LayoutRecord, FindingRecord and, for imports, ImportedPayment.
+ * CheckRecord, CompanyRecord, CompanyUpgradeRecord, SettingRecord, LayoutRecord, FindingRecord and, for imports,
+ * ImportedPayment.
  */
 extern const RecordTable customerTable;
 extern const RecordTable productTable;
@@ -128,6 +141,7 @@ extern const RecordTable invoiceTable;
 extern const RecordTable fileTable;
 extern const RecordTable checkTable;
 extern const RecordTable companyTable;
+extern const RecordTable companyUpgradeTable;
 extern const RecordTable settingTable;
 extern const RecordTable layoutTable;
 extern const RecordTable findingTable;
