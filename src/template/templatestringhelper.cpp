@@ -123,6 +123,8 @@ QString TemplateStringHelper::replaceMatches(const QString &text, QRegExp patter
 QString TemplateStringHelper::substituteVariables(const QString &text, const Invoice *invoice,
                                                   const Customer *customer) const
 {
+    if (!text.contains(QLatin1Char('{'))) // most texts hold no variable, and patterns are slow to make
+        return text;
     const QString expanded =
         replaceMatches(text, QRegExp(QStringLiteral("\\{\\{\\s?([\\w\\d/]+)\\s?\\}\\}")),
                        [&](const QString &name) { return valueForVariable(name, invoice, customer); });
