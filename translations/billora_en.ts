@@ -284,6 +284,10 @@
         <translation>no invoice was found</translation>
     </message>
     <message>
+        <source>Lasku %1 on lähetetty.</source>
+        <translation>Invoice %1 has been sent.</translation>
+    </message>
+    <message>
         <source>Poistetaanko lasku riveineen ja suorituksineen?</source>
         <translation>Remove the invoice with its rows and payments?</translation>
     </message>
@@ -400,6 +404,10 @@
         <translation>delimiter of the CSV file</translation>
     </message>
     <message>
+        <source>ei merkitä lähetetyksi päiväkirjaan</source>
+        <translation>leaves the journal of sent documents as it is</translation>
+    </message>
+    <message>
         <source>vakiotulosteeseen mahtuu yksi asiakirja, ei %1</source>
         <translation>standard output takes one document, not %1</translation>
     </message>
@@ -450,6 +458,58 @@
     <message>
         <source>laskut tiedostoiksi: PDF, Finvoice tai CSV</source>
         <translation>invoices as files: PDF, Finvoice or CSV</translation>
+    </message>
+    <message>
+        <source>laskujen numeroita ja välejä</source>
+        <translation>numbers and ranges of invoices</translation>
+    </message>
+    <message>
+        <source>lähetyksen päivä tai ajanjakso</source>
+        <translation>day or period of sending</translation>
+    </message>
+    <message>
+        <source>tästä päivästä alkaen</source>
+        <translation>from this day on</translation>
+    </message>
+    <message>
+        <source>tähän päivään asti</source>
+        <translation>up to this day</translation>
+    </message>
+    <message>
+        <source>rivin numero</source>
+        <translation>number of the line</translation>
+    </message>
+    <message>
+        <source>päiväkirjassa ei ole riviä %1</source>
+        <translation>the journal has no line %1</translation>
+    </message>
+    <message>
+        <source>laskua %1 on muutettu lähettämisen jälkeen</source>
+        <translation>invoice %1 was changed after it was sent</translation>
+    </message>
+    <message>
+        <source>laskua %1 ei enää ole</source>
+        <translation>invoice %1 is gone</translation>
+    </message>
+    <message>
+        <source>Päiväkirja on eheä, rivejä %1.</source>
+        <translation>The journal is sound, %1 lines.</translation>
+    </message>
+    <message>
+        <source>lähetetyt asiakirjat</source>
+        <translation>the documents that were sent</translation>
+    </message>
+    <message>
+        <source>päiväkirjan rivi tiivisteineen</source>
+        <translation>a line of the journal with its hashes</translation>
+    </message>
+    <message>
+        <source>tarkistaa, ettei päiväkirjaa tai lähetettyjä laskuja ole muutettu</source>
+        <translation>checks that neither the journal nor a sent invoice was changed</translation>
+    </message>
+    <message>
+        <source>Rivien ketju ja tieto viimeisestä rivistä paljastavat muutetun, poistetun, lisätyn ja siirretyn rivin, mutta eivät sitä, joka kirjoittaa tai poistaa ne kaikki. Kopio muualla paljastaa senkin.</source>
+        <translation>The chain of lines and what is kept of the last one show a line that was changed, removed, added or moved, but not who writes or removes them all. A copy elsewhere shows that too.</translation>
     </message>
     <message>
         <source>laskupohja</source>
@@ -548,10 +608,6 @@
         <translation>selects the layout for new documents</translation>
     </message>
     <message>
-        <source>laskujen numeroita ja välejä</source>
-        <translation>numbers and ranges of invoices</translation>
-    </message>
-    <message>
         <source>asiakkaan suoritukset</source>
         <translation>payments of a customer</translation>
     </message>
@@ -562,14 +618,6 @@
     <message>
         <source>suorituksen päivä tai ajanjakso</source>
         <translation>date or period of the payment</translation>
-    </message>
-    <message>
-        <source>tästä päivästä alkaen</source>
-        <translation>from this day on</translation>
-    </message>
-    <message>
-        <source>tähän päivään asti</source>
-        <translation>up to this day</translation>
     </message>
     <message>
         <source>kenttä, jonka mukaan järjestetään; - edessä laskevasti</source>
@@ -1094,6 +1142,10 @@ Overdue %4, %5</translation>
     <message>
         <source>luettelot ihmisille, PDF tai CSV</source>
         <translation>lists for people, PDF or CSV</translation>
+    </message>
+    <message>
+        <source>lähetettyjen asiakirjojen päiväkirja</source>
+        <translation>journal of the documents that were sent</translation>
     </message>
     <message>
         <source>yritysten tietokannat</source>
@@ -1880,12 +1932,76 @@ Overdue %4, %5</translation>
         <translation>credit</translation>
     </message>
     <message>
-        <source>laskun numero</source>
-        <translation>number of the invoice</translation>
+        <source>Aika</source>
+        <translation>Time</translation>
+    </message>
+    <message>
+        <source>lähettämisen aika, UTC</source>
+        <translation>time of sending, UTC</translation>
     </message>
     <message>
         <source>Laskun tunniste</source>
         <translation>Invoice id</translation>
+    </message>
+    <message>
+        <source>Muoto</source>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Tiedoston SHA-256</source>
+        <translation>SHA-256 of the file</translation>
+    </message>
+    <message>
+        <source>Laskun SHA-256</source>
+        <translation>SHA-256 of the invoice</translation>
+    </message>
+    <message>
+        <source>lasku riveineen sellaisena kuin se lähetettiin</source>
+        <translation>the invoice with its rows as it was sent</translation>
+    </message>
+    <message>
+        <source>Edellisen SHA-256</source>
+        <translation>SHA-256 before</translation>
+    </message>
+    <message>
+        <source>edellisen rivin SHA-256</source>
+        <translation>SHA-256 of the line before</translation>
+    </message>
+    <message>
+        <source>Rivin SHA-256</source>
+        <translation>SHA-256 of the line</translation>
+    </message>
+    <message>
+        <source>rikki</source>
+        <translation>broken</translation>
+    </message>
+    <message>
+        <source>muutettu</source>
+        <translation>changed</translation>
+    </message>
+    <message>
+        <source>poistettu</source>
+        <translation>removed</translation>
+    </message>
+    <message>
+        <source>lisätty</source>
+        <translation>added</translation>
+    </message>
+    <message>
+        <source>loppu tuntematon</source>
+        <translation>end unknown</translation>
+    </message>
+    <message>
+        <source>lasku muuttunut</source>
+        <translation>invoice changed</translation>
+    </message>
+    <message>
+        <source>lasku poistettu</source>
+        <translation>invoice gone</translation>
+    </message>
+    <message>
+        <source>laskun numero</source>
+        <translation>number of the invoice</translation>
     </message>
     <message>
         <source>suorituksen päivä</source>
@@ -2088,6 +2204,50 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>laskun numero on jo käytössä: %1</source>
         <translation>the invoice number is taken: %1</translation>
+    </message>
+    <message>
+        <source>lähetettyjen päiväkirjaa %1 ei voi käyttää: %2</source>
+        <translation>the journal of sent documents %1 cannot be used: %2</translation>
+    </message>
+    <message>
+        <source>kohta %1 ei ole päiväkirjan rivi</source>
+        <translation>place %1 holds no line of the journal</translation>
+    </message>
+    <message>
+        <source>rivi %1 puuttuu</source>
+        <translation>line %1 is missing</translation>
+    </message>
+    <message>
+        <source>rivit %1–%2 puuttuvat</source>
+        <translation>lines %1–%2 are missing</translation>
+    </message>
+    <message>
+        <source>rivi %1 on rivin %2 jäljessä: lisätty tai siirretty</source>
+        <translation>line %1 stands behind line %2: added or moved</translation>
+    </message>
+    <message>
+        <source>riviä %1 on muutettu</source>
+        <translation>line %1 was changed</translation>
+    </message>
+    <message>
+        <source>tieto viimeisestä rivistä puuttuu: lopusta voi puuttua rivejä</source>
+        <translation>nothing tells which line is the last: lines may be missing at the end</translation>
+    </message>
+    <message>
+        <source>tieto viimeisestä rivistä puuttui ennen riviä %1: lopusta on voinut puuttua rivejä</source>
+        <translation>nothing told which line was the last before line %1: lines may have been missing at the end</translation>
+    </message>
+    <message>
+        <source>viimeinen rivi %1 puuttuu</source>
+        <translation>the last line %1 is missing</translation>
+    </message>
+    <message>
+        <source>viimeiset rivit %1–%2 puuttuvat</source>
+        <translation>the last lines %1–%2 are missing</translation>
+    </message>
+    <message>
+        <source>rivi %1 on lisätty viimeisen rivin %2 jälkeen</source>
+        <translation>line %1 was added behind the last line %2</translation>
     </message>
     <message>
         <source>virheellinen JSON: %1</source>
@@ -2296,6 +2456,14 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>mitkä laskut? Anna numeroita, ehtoja tai valinta --all</source>
         <translation>which invoices? Give numbers, conditions or the option --all</translation>
+    </message>
+    <message>
+        <source>lasku %1 on lähetetty; muutos vaatii valinnan --yes</source>
+        <translation>invoice %1 has been sent; changing it needs --yes</translation>
+    </message>
+    <message>
+        <source>Lasku %1 on lähetetty. Muutetaanko?</source>
+        <translation>Invoice %1 has been sent. Change it?</translation>
     </message>
     <message>
         <source>Tietokannan salasana (tyhjä, jos sitä ei ole)</source>

@@ -22,6 +22,7 @@ constexpr struct {
     {"account", TEXT("yrityksen pankkitilit")},
     {"payment", TEXT("saadut suoritukset")},
     {"report", TEXT("luettelot ihmisille, PDF tai CSV")},
+    {"journal", TEXT("lähetettyjen asiakirjojen päiväkirja")},
     {"layout", TEXT("laskupohjat ja Finvoice-kirjoittimet")},
     {"company", TEXT("yritysten tietokannat")},
     {"settings", TEXT("yrityksen tiedot ja asetukset")},

@@ -11,9 +11,10 @@
 
 namespace {
 
-const RecordTable *const tables[] = {&invoiceTable, &rowTable,     &vatRateTable, &customerTable,       &productTable,
-                                     &accountTable, &paymentTable, &companyTable, &companyUpgradeTable, &settingTable,
-                                     &layoutTable,  &findingTable, &importTable,  &fileTable,           &checkTable};
+const RecordTable *const tables[] = {
+    &invoiceTable, &rowTable,     &vatRateTable,        &customerTable, &productTable,       &accountTable,
+    &paymentTable, &companyTable, &companyUpgradeTable, &settingTable,  &layoutTable,        &findingTable,
+    &importTable,  &fileTable,    &checkTable,          &journalTable,  &journalFindingTable};
 
 bool isWhole(ValueType type)
 {

@@ -125,7 +125,7 @@ QString examples(const char *lines)
 /** The exit codes that a command has besides those of every command. */
 QString specialExits(const Command &command)
 {
-    const RecordTable *const lookedAt[] = {&findingTable, &importTable, &fileTable};
+    const RecordTable *const lookedAt[] = {&findingTable, &importTable, &fileTable, &journalFindingTable};
     const bool needsLook = std::find(std::begin(lookedAt), std::end(lookedAt), command.result) != std::end(lookedAt);
     Problem unconfirmed;
     unconfirmed.code = Problem::needsConfirmation;

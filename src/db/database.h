@@ -5,7 +5,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
+
 class DatabaseCheck;
+class JournalStore;
 class KeyTable;
 class Query;
 class QSettings;
@@ -68,6 +71,8 @@ public:
 
     /** The keys of requests, on this connection. */
     KeyTable keys() const;
+    /** The journal of sent documents: beside an SQLite file, in a table of PostgreSQL. Uses this connection. */
+    virtual std::unique_ptr<JournalStore> journal() const = 0;
     /** A look at file, schema and books, on this connection. */
     DatabaseCheck check() const;
     /**

@@ -1,5 +1,6 @@
 #include "postgresqldatabase.h"
 
+#include "journaltable.h"
 #include "postgresqlquery.h"
 
 #include <QLoggingCategory>
@@ -166,4 +167,9 @@ Query *PostgreSQLDatabase::query()
 bool PostgreSQLDatabase::isLockError(const QString &reason) const
 {
     return reason.contains(QLatin1String("lock timeout"));
+}
+
+std::unique_ptr<JournalStore> PostgreSQLDatabase::journal() const
+{
+    return std::make_unique<JournalTable>(connection(false));
 }

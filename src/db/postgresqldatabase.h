@@ -20,6 +20,7 @@ public:
     bool beginReading() override; ///< repeatable read, read only
     Query *query() override;      ///< see PostgreSQLQuery
     bool isLockError(const QString &reason) const override;
+    std::unique_ptr<JournalStore> journal() const override; ///< see JournalTable
 
 protected:
     /** See Database. */

@@ -1,5 +1,7 @@
 #include "sqlitedatabase.h"
 
+#include "journalfile.h"
+
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
@@ -154,3 +156,8 @@ QString SQLiteDatabase::appendSuffixToFilename(const QString &name)
 }
 
 bool SQLiteDatabase::isLockError(const QString &reason) const { return reason.contains(QLatin1String("locked")); }
+
+std::unique_ptr<JournalStore> SQLiteDatabase::journal() const
+{
+    return std::make_unique<JournalFile>(connection(false).databaseName());
+}

@@ -22,6 +22,7 @@ public:
     long long foreignChanges() override;                   ///< PRAGMA data_version
     bool backupTo(const QString &filename) override;       ///< with the permissions of the database's own file
     bool isLockError(const QString &reason) const override;
+    std::unique_ptr<JournalStore> journal() const override; ///< see JournalFile
 
     /**
      * @return the name itself when no such file exists, else the first free name with "-1", "-2", … before the suffix

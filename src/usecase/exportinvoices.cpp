@@ -58,8 +58,8 @@ bool findInvoiceScript(UseCaseContext &context, const std::optional<QString> &na
 /** The invoices of one export, each for a file of its own. */
 class Documents {
 public:
-    Documents(UseCaseContext &context, const Request &request, const QString &form, InvoicePrintModel &all)
-        : m_context(context), m_request(request), m_form(form), m_all(all)
+    Documents(const Request &request, PrintFormat format, const QString &form, InvoicePrintModel &all)
+        : m_request(request), m_format(format), m_form(form), m_all(all)
     {
     }
 
@@ -75,7 +75,8 @@ public:
     }
     File file(int i, const QString &fileName, const QStringList &exception = {}) const
     {
-        return {fileName, m_all.invoice(i)->id, m_all.invoice(i)->number, exception, {}};
+        const Invoice &invoice = *m_all.invoice(i);
+        return {fileName, invoice.id, invoice.number, exception, {}, m_format, m_all.typeCode(invoice)};
     }
     void tellProgress(int i) const
     {
@@ -111,8 +112,8 @@ public:
     }
 
 private:
-    UseCaseContext &m_context;
     const Request &m_request;
+    const PrintFormat m_format; ///< of file()
     const QString m_form;
     InvoicePrintModel &m_all;
 };
@@ -205,9 +206,11 @@ bool writeEInvoices(UseCaseContext &context, const Request &request, PrintFormat
                 scripted.emplace(finvoices(context, request.writeSoap, documents, single));
             if (!documents.make(*scripted, i, i + 1, files))
                 return false;
+            files.last().format = own;
             continue;
         }
         File file = documents.file(i, QString());
+        file.format = own;
         const EInvoice::Document document = documentOf(all, invoice, request.printType);
         if (own != finvoiceFormat)
             file.findings = EInvoice::check(document, own == peppolFormat ? EInvoice::peppol : EInvoice::finvoice3);
@@ -244,7 +247,7 @@ bool writeCsv(UseCaseContext &context, const Request &request, const QString &na
         if (!model.exportToCSV(name, request.csvDelimiter))
             return ExportTools::failWriting(context, name, model.lastError());
     }
-    files.append({name, -1, 0, {}, {}});
+    files.append({name, -1, 0, {}, {}, csvFormat, 0});
     return true;
 }
 
@@ -302,7 +305,7 @@ bool ExportInvoices::run(UseCaseContext &context, const Request &request, QVecto
     };
     if (format == csvFormat)
         return writeCsv(context, request, form("laskut.csv"), model, files);
-    const Documents documents(context, request, form(format == pdfFormat ? "lasku-$i.pdf" : "lasku-$i.xml"), model);
+    const Documents documents(request, format, form(format == pdfFormat ? "lasku-$i.pdf" : "lasku-$i.xml"), model);
     if (format == pdfFormat)
         return printInvoices(context, request, documents, files);
     if (format != finvoiceFormat)

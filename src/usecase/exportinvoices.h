@@ -39,6 +39,8 @@ struct File {
     QStringList exception;
     /** Of an e-invoice: with an error among them nothing was written. */
     QVector<EInvoice::Finding> findings;
+    PrintFormat format = pdfFormat; ///< never einvoiceFormat
+    int typeCode = 0;               ///< see InvoicePrintModel::typeCode()
 };
 
 /** An invoice looked at before it is sent. */

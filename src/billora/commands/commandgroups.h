@@ -16,6 +16,7 @@ CommandGroup productCommands();
 CommandGroup accountCommands();
 CommandGroup paymentCommands();
 CommandGroup reportCommands();
+CommandGroup journalCommands();
 CommandGroup layoutCommands();
 CommandGroup companyCommands();
 CommandGroup settingsCommands();

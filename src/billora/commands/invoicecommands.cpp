@@ -21,6 +21,7 @@
 #include "references.h"
 #include "rowwords.h"
 #include "selection.h"
+#include "sentdocuments.h"
 #include "sharedoptions.h"
 #include "task.h"
 #include "terminal.h"
@@ -79,8 +80,13 @@ bool exportNew(Task &task, int id)
     ExportInvoices::Request request;
     request.criteria.id = id;
     request.isTrial = task.manners.isDryRun;
+    InvoiceSelection selection;
+    selection.ids.append(id);
+    selection.today = task.reader.today();
+    SentDocuments sent(task);
     QVector<ExportInvoices::File> files;
-    if (!ExportInvoices::run(task.context(), request, files))
+    if ((!request.isTrial && !sent.prepare(selection)) || !ExportInvoices::run(task.context(), request, files) ||
+        (!request.isTrial && !sent.record(files)))
         return false;
     for (const ExportInvoices::File &file : qAsConst(files)) {
         if (task.answer.wantsSentences())
@@ -252,14 +258,18 @@ bool change(Task &task, const QString &word, const Arguments &given, const Invoi
 bool edit(Task &task)
 {
     const QString word = task.arguments.text("invoice");
-    if (task.arguments.has("customer") || task.arguments.hasRows || RecordFields::hasAny(invoiceTable, task.arguments))
-        return change(task, word, task.arguments, nullptr);
-    if (!task.manners.isInteractive)
+    const bool hasFields =
+        task.arguments.has("customer") || task.arguments.hasRows || RecordFields::hasAny(invoiceTable, task.arguments);
+    if (!hasFields && !task.manners.isInteractive)
         return task.fail(Problem::missingOption, text(TEXT("mitä muutetaan? Anna kenttiä valintoina")));
     Invoice invoice;
     InvoiceRecord seen;
     if (!References::invoice(task, QStringLiteral("invoice"), word, invoice) ||
-        !InvoiceReader::readWhole(task, invoice.id, seen))
+        !SentDocuments::agreesToChange(task, invoice))
+        return false;
+    if (hasFields)
+        return change(task, word, task.arguments, nullptr);
+    if (!InvoiceReader::readWhole(task, invoice.id, seen))
         return false;
     const QStringList rows = InvoiceWriter::rowLines(seen);
     bool isUnchanged = false;
@@ -293,10 +303,18 @@ bool remove(Task &task)
                              .arg(QString::number(record.invoice.number), ValueWriter::date(record.invoice.date),
                                   record.customerName, ValueWriter::money(record.invoice.totalAmount)));
     }
+    QString remark;
+    for (int i = 0; i < records.size() && remark.isEmpty() && task.manners.isInteractive; ++i) {
+        bool wasSent = false;
+        if (!SentDocuments::isSent(task, records.at(i).invoice.id, wasSent))
+            return false;
+        if (wasSent)
+            remark = text(TEXT("Lasku %1 on lähetetty.")).arg(records.at(i).invoice.number) + QLatin1Char(' ');
+    }
     const QString all = records.size() == 1
                             ? text(TEXT("Poistetaanko lasku riveineen ja suorituksineen?"))
                             : text(TEXT("Poistetaanko %1 laskua riveineen ja suorituksineen?")).arg(records.size());
-    const QString question = lines.join(QLatin1Char('\n')) + QLatin1Char('\n') + all;
+    const QString question = lines.join(QLatin1Char('\n')) + QLatin1Char('\n') + remark + all;
     if (!task.confirm(question, records.size(), task.flag("all")))
         return false;
     for (const InvoiceRecord &record : qAsConst(records)) {
@@ -572,10 +590,11 @@ constexpr Option exportOptions[] = {
     {"output", ValueType::file, TEXT("tiedoston nimi; $i on laskun ja $n asiakkaan nimi tai numero, - on vakiotuloste"),
      0, nullptr, 'o', "PATTERN"},
     {"csvDelimiter", ValueType::text, TEXT("CSV-tiedoston erotin")},
+    {"noJournal", ValueType::flag, TEXT("ei merkitä lähetetyksi päiväkirjaan")},
 };
 
-/** A single document onto standard output, by way of a folder of its own. */
-bool exportToOutput(Task &task, ExportInvoices::Request request)
+/** A single document onto standard output, by way of a folder of its own. @param sent  null: not told to the journal */
+bool exportToOutput(Task &task, ExportInvoices::Request request, SentDocuments *sent)
 {
     QTemporaryDir folder;
     if (!folder.isValid())
@@ -600,7 +619,7 @@ bool exportToOutput(Task &task, ExportInvoices::Request request)
     if (!file.open(QIODevice::ReadOnly))
         return task.fail(Problem::file, file.errorString());
     task.answer.bytes(file.readAll());
-    return true;
+    return !sent || sent->record(files, QStringLiteral("-"));
 }
 
 bool exportDocuments(Task &task)
@@ -635,18 +654,21 @@ bool exportDocuments(Task &task)
                                          text(TEXT("erotin on yksi merkki")));
     }
     request.fileName = QDir::fromNativeSeparators(task.arguments.text("output"));
-    bool isAny = false;
-    if (!InvoiceReader::read(task, *selection, false, [&isAny](const InvoiceRecord &) {
-            isAny = true;
-            return false;
-        }))
-        return false;
-    if (!isAny)
-        return task.fail(Problem::notFound, text(TEXT("yhtään laskua ei löytynyt")), QStringLiteral("invoices"));
-    if (request.fileName == QLatin1String("-"))
-        return exportToOutput(task, request);
     const bool isCsv = request.format == csvFormat ||
                        (!request.format && request.fileName.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive));
+    const bool isForSending = !isCsv && !request.isTrial && !task.flag("noJournal");
+    SentDocuments sent(task);
+    bool isAny = false;
+    if (isForSending ? !sent.prepare(*selection)
+                     : !InvoiceReader::read(task, *selection, false, [&isAny](const InvoiceRecord &) {
+                           isAny = true;
+                           return false;
+                       }))
+        return false;
+    if (!isAny && sent.isEmpty())
+        return task.fail(Problem::notFound, text(TEXT("yhtään laskua ei löytynyt")), QStringLiteral("invoices"));
+    if (request.fileName == QLatin1String("-"))
+        return exportToOutput(task, request, isForSending ? &sent : nullptr);
     const QString csvName = request.fileName.isEmpty() ? QStringLiteral("laskut.csv") : request.fileName;
     if (isCsv && QFileInfo::exists(csvName))
         return task.session.fail(Failure::fileExists, {csvName});
@@ -660,7 +682,9 @@ bool exportDocuments(Task &task)
     QVector<ExportInvoices::File> files;
     const bool written = ExportInvoices::run(task.context(), request, files);
     bar.reset();
-    if (!written)
+    // Also of a run that broke off: the files that it wrote stay.
+    const bool isTold = !isForSending || sent.record(files);
+    if (!written || !isTold)
         return false;
     const bool isPlain = task.answer.wantsSentences();
     if (!isPlain && !task.answer.beginList(fileTable, task.session))

@@ -7,6 +7,7 @@
 #include "records.h"
 #include "references.h"
 #include "selection.h"
+#include "sentdocuments.h"
 #include "task.h"
 #include "texts.h"
 #include "valuewriter.h"
@@ -50,8 +51,17 @@ bool findInvoice(Task &task, Invoice &invoice)
     return References::invoice(task, QStringLiteral("invoice"), task.arguments.text("invoice"), invoice);
 }
 
+/** Before the transaction: while a person thinks, others can write. */
+bool agreesToChange(Task &task)
+{
+    Invoice invoice;
+    return findInvoice(task, invoice) && SentDocuments::agreesToChange(task, invoice);
+}
+
 bool add(Task &task)
 {
+    if (!agreesToChange(task))
+        return false;
     WriteTransaction transaction(task.context().session);
     Invoice invoice;
     InvoiceItem item;
@@ -67,6 +77,8 @@ bool edit(Task &task)
 {
     if (!RecordFields::hasAny(rowTable, task.arguments) && !task.arguments.has("product"))
         return task.fail(Problem::missingOption, text(TEXT("mitä muutetaan? Anna kenttiä valintoina")));
+    if (!agreesToChange(task))
+        return false;
     WriteTransaction transaction(task.context().session);
     Invoice invoice;
     InvoiceItem item;
@@ -94,7 +106,13 @@ bool remove(Task &task)
             ids.append(item.id);
     }
     const QString places = words.join(QLatin1String(", "));
-    if (!task.confirm(text(TEXT("Poistetaanko laskulta %1 rivi %2?")).arg(QString::number(invoice.number), places),
+    bool wasSent = false;
+    if (task.manners.isInteractive && !SentDocuments::isSent(task, invoice.id, wasSent))
+        return false;
+    const QString remark =
+        wasSent ? text(TEXT("Lasku %1 on lähetetty.")).arg(invoice.number) + QLatin1Char(' ') : QString();
+    if (!task.confirm(remark +
+                          text(TEXT("Poistetaanko laskulta %1 rivi %2?")).arg(QString::number(invoice.number), places),
                       ids.size(), false))
         return false;
     for (const int id : qAsConst(ids)) {

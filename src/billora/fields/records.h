@@ -120,6 +120,27 @@ struct CheckRecord {
     QString rule, severity, term, field, message, command;
 };
 
+/** A document that was sent, as the journal has it. */
+struct JournalRecord {
+    int line = 0; ///< from 1
+    QString time; ///< UTC, ISO 8601
+    int invoiceNumber = 0;
+    int invoiceId = -1;
+    QString kind, format;   ///< words of `journalKinds` and of the formats of exports
+    QString file;           ///< as it was told
+    QString sha256, record; ///< of the file and of the invoice as it was, hexadecimal
+    QString previous, hash; ///< of the line before and of this line, the same
+};
+
+/** What the check of the journal found. */
+struct JournalFindingRecord {
+    int line = 0;          ///< of the journal
+    int invoiceNumber = 0; ///< 0 for none
+    QString finding, message;
+};
+
+/** The words of document kinds, in the order of InvoicePrintModel::typeCode(); null ends them. */
+extern const Choice journalKinds[];
 /** The words of invoice types, in the order of Invoice::Type; null ends them. */
 extern const Choice invoiceTypes[];
 /** The words of states, in the order of InvoiceSelection::State; null ends them. */
@@ -128,8 +149,8 @@ extern const Choice invoiceStates[];
 /**
  * The fields of each kind of record: a getter must be given the address of a record of that kind.
  * CustomerRecord, ProductRecord, AccountRecord, PaymentRecord, RowRecord, VatRateRecord, InvoiceRecord, FileRecord,
- * CheckRecord, CompanyRecord, CompanyUpgradeRecord, SettingRecord, LayoutRecord, FindingRecord and, for imports,
- * ImportedPayment.
+ * CheckRecord, CompanyRecord, CompanyUpgradeRecord, SettingRecord, LayoutRecord, FindingRecord, JournalRecord,
+ * JournalFindingRecord and, for imports, ImportedPayment.
  */
 extern const RecordTable customerTable;
 extern const RecordTable productTable;
@@ -146,5 +167,7 @@ extern const RecordTable settingTable;
 extern const RecordTable layoutTable;
 extern const RecordTable findingTable;
 extern const RecordTable importTable;
+extern const RecordTable journalTable;
+extern const RecordTable journalFindingTable;
 
 #endif
