@@ -79,6 +79,18 @@ void writeFieldSchema(JsonWriter &json, const Field &field)
     json.endObject();
 }
 
+/** Whether a command lists the records of several companies. */
+bool isOfSeveralCompanies(const RecordTable &table)
+{
+    for (const CommandGroup &group : CommandTable::groups()) {
+        for (const Command &command : group) {
+            if (command.result == &table && command.is(Command::companies))
+                return true;
+        }
+    }
+    return false;
+}
+
 /** The members of the schema of an object. `a.b` makes an object `a`. */
 void writeObjectSchema(JsonWriter &json, const RecordTable &table)
 {
@@ -108,10 +120,17 @@ void writeObjectSchema(JsonWriter &json, const RecordTable &table)
         json.endObject();
         json.endObject();
     }
-    if (!table.find(QStringLiteral("company")) && table.name != companyTable.name) { // of several companies
+    if (isOfSeveralCompanies(table)) {
         json.name("company");
         json.beginObject();
-        writeObjectSchema(json, CompanyColumns::table);
+        json.member("type", "object");
+        json.name("properties");
+        json.beginObject();
+        for (const Field &field : CompanyColumns::table) {
+            json.name(QByteArray(field.name).mid(int(qstrlen("company."))).constData());
+            writeFieldSchema(json, field);
+        }
+        json.endObject();
         json.endObject();
     }
     json.name("dryRun");

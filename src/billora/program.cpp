@@ -7,6 +7,7 @@
 #include "helptext.h"
 #include "language.h"
 #include "runner.h"
+#include "settings.h"
 #include "terminal.h"
 #include "texts.h"
 #include "valuewriter.h"
@@ -212,14 +213,16 @@ int Program::executeForEach(const Command &command, const Arguments &arguments)
         m_session.clearProblem();
         Companies::Look look;
         const bool isMatch = Companies::isMatch(entry, pattern);
-        const bool isRead = Companies::look(m_session.context(), entry, look);
+        const bool isRead = isMatch || Companies::look(m_session.context(), entry, look);
         if (isRead && !isMatch && !Companies::isNameMatch(look.sellerName, pattern))
             continue;
         isFound = true;
         int code = 0;
-        answer.beginCompany(DatabaseList::number(entry), look.sellerName);
-        const bool done =
-            isRead && m_session.openCompany(entry) && runner.run(command, arguments, answer, m_manners, m_key, code);
+        DatabaseSession &session = m_session.context().session;
+        bool done = isRead && m_session.openCompany(entry) && session.fetch(CachedList::settings);
+        answer.beginCompany(DatabaseList::number(entry),
+                            done ? m_session.registry().settings()->sellerName : QString());
+        done = done && runner.run(command, arguments, answer, m_manners, m_key, code);
         exitCode = std::max(exitCode, done ? code : exitNeedsLook);
         if (done)
             continue;

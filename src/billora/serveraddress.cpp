@@ -52,7 +52,8 @@ bool ServerAddress::read(Task &task, const QString &typed, QVariantMap &entry)
                   {"port", "port", url.port() > 0 ? QString::number(url.port()) : QString()},
                   {"user", "username", url.userName()},
                   {"sslmode", "sslmode", QString()},
-                  {"sslrootcert", "sslrootcert", QString()}};
+                  {"sslrootcert", "sslrootcert", QString()},
+                  {"pooled", "pooled", QString()}};
     bool isKnown = true;
     const auto items = QUrlQuery(url).queryItems(QUrl::FullyDecoded);
     for (const auto &item : items) {
@@ -65,6 +66,8 @@ bool ServerAddress::read(Task &task, const QString &typed, QVariantMap &entry)
         }
         isKnown = isKnown && isTaken;
     }
+    const QString &pooled = values[5].value;
+    isKnown = isKnown && (pooled.isEmpty() || pooled == QLatin1String("true") || pooled == QLatin1String("false"));
     const bool isRight = url.isValid() && isKnown &&
                          (url.scheme() == QLatin1String("postgresql") || url.scheme() == QLatin1String("postgres")) &&
                          !values[0].value.isEmpty() && !database.isEmpty() && !database.contains(QLatin1Char('/'));

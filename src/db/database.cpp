@@ -100,16 +100,24 @@ bool Database::createTables(const QString &sellerName)
     return commit() || fail(connection(false).lastError().text());
 }
 
+bool Database::beginUpgradeStep(QSqlQuery &, int, bool &)
+{
+    return transaction() || fail(connection(false).lastError().text());
+}
+
 bool Database::upgradeStep(QSqlQuery &query, int fromVersion)
 {
     // All of a step or nothing: the version number tells what is there.
-    if (!transaction())
-        return fail(connection(false).lastError().text());
+    bool isDone = false;
+    if (!beginUpgradeStep(query, fromVersion, isDone))
+        return false;
+    if (isDone)
+        return true;
     const QStringList statements = SchemaUpgrade::statements(fromVersion, isSQLite());
     for (const QString &sql : statements) {
         // A step that other programs left half done is completed; a failure of the last one is told as they do.
-        const bool isDone = fromVersion < schemaVersion - 1 && isAddedColumn(sql);
-        if (!isDone && !query.exec(sql)) {
+        const bool isThere = fromVersion < schemaVersion - 1 && isAddedColumn(sql);
+        if (!isThere && !query.exec(sql)) {
             fail(query.lastError().text());
             query.finish();
             rollback();

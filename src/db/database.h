@@ -46,6 +46,9 @@ public:
     /** A glance opens an SQLite file for reading only and fails at once where another program holds it. */
     void setGlance(bool isGlance) { m_isGlance = isGlance; }
 
+    /** Whether the connection can go while the program runs. */
+    virtual bool isRemote() const { return false; }
+
     virtual bool driverAvailable() const = 0; ///< whether this build of the library can speak to the backend
     /** @return whether the database existed before open() or was created by it */
     bool exists() const { return m_exists; }
@@ -104,6 +107,8 @@ protected:
      * @return the outcome of the last statement run
      */
     bool upgradeStep(QSqlQuery &query, int fromVersion);
+    /** Begins the transaction of a step. @param isDone  another program has done it: nothing is begun */
+    virtual bool beginUpgradeStep(QSqlQuery &query, int fromVersion, bool &isDone);
     bool isAddedColumn(const QString &sql) const;
     /** The statements of the creation script. @return false when the resource cannot be read */
     bool readCreationScript(QStringList &statements);

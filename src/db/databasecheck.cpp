@@ -9,8 +9,10 @@
 #include "printscript.h"
 #include "product.h"
 #include "settings.h"
+#include "sqltext.h"
 #include "tablecolumns.h"
 
+#include <QSqlDriver>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -233,12 +235,10 @@ bool DatabaseCheck::checkTotals()
 bool DatabaseCheck::repairTotals()
 {
     QSqlQuery query(m_connection);
-    query.prepare(QStringLiteral("UPDATE invoice SET total_amount = ?, balance = ? WHERE id = ?"));
+    const QString sql = QStringLiteral("UPDATE invoice SET total_amount = ?, balance = ? WHERE id = ?");
     for (auto it = m_wrongInvoices.cbegin(); it != m_wrongInvoices.cend(); ++it) {
-        query.bindValue(0, it.value().total);
-        query.bindValue(1, it.value().total - it.value().paid);
-        query.bindValue(2, it.key());
-        if (!query.exec()) {
+        const QVariantList values = {it.value().total, it.value().total - it.value().paid, it.key()};
+        if (!query.exec(SqlText::filled(*m_connection.driver(), sql, values))) {
             m_lastError = query.lastError().text().trimmed();
             return false;
         }

@@ -1,6 +1,9 @@
 #include "keytable.h"
 
+#include "sqltext.h"
+
 #include <QDateTime>
+#include <QSqlDriver>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QStringList>
@@ -14,9 +17,8 @@ bool KeyTable::find(const QString &key, Entry &entry, bool &isFound)
     if (!exists())
         return true;
     QSqlQuery query(m_connection);
-    query.prepare(QStringLiteral("SELECT digest, record_id FROM billora_key WHERE name = ?"));
-    query.addBindValue(key);
-    if (!query.exec()) {
+    const QString sql = QStringLiteral("SELECT digest, record_id FROM billora_key WHERE name = ?");
+    if (!query.exec(SqlText::filled(*m_connection.driver(), sql, {key}))) {
         m_lastError = query.lastError().text();
         return false;
     }
@@ -34,12 +36,10 @@ bool KeyTable::add(const QString &key, const Entry &entry)
                                               "varchar(64) NOT NULL, record_id integer NOT NULL, made varchar(40) "
                                               "NOT NULL)"));
     if (ok) {
-        query.prepare(QStringLiteral("INSERT INTO billora_key (name, digest, record_id, made) VALUES (?, ?, ?, ?)"));
-        query.addBindValue(key);
-        query.addBindValue(entry.digest);
-        query.addBindValue(entry.recordId);
-        query.addBindValue(QDateTime::currentDateTimeUtc().toString(Qt::ISODate));
-        ok = query.exec();
+        const QString sql =
+            QStringLiteral("INSERT INTO billora_key (name, digest, record_id, made) VALUES (?, ?, ?, ?)");
+        const QString now = QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
+        ok = query.exec(SqlText::filled(*m_connection.driver(), sql, {key, entry.digest, entry.recordId, now}));
     }
     if (!ok)
         m_lastError = query.lastError().text();

@@ -26,6 +26,14 @@ constexpr char connectOptions[] =
 /** Any constant serves, as long as every writer of this program takes the same. */
 constexpr int writerLock = 0x42494c4c;
 
+/** A value of a connection option: blanks do not end it. */
+QString quoted(const QString &value)
+{
+    QString text = value;
+    text.replace(QLatin1Char('\\'), QLatin1String("\\\\")).replace(QLatin1Char('\''), QLatin1String("\\'"));
+    return QLatin1Char('\'') + text + QLatin1Char('\'');
+}
+
 } // namespace
 
 PostgreSQLDatabase::PostgreSQLDatabase(QObject *parent) : Database(QStringLiteral("postgresql"), parent) {}
@@ -40,7 +48,9 @@ bool PostgreSQLDatabase::open(QSettings *settings)
         return fail(tr("Tietokantapalvelimen tai tietokannan nimi puuttuu"));
     QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), m_connectionName);
     database.setHostName(host);
-    database.setPort(settings->value(QStringLiteral("port"), defaultPort).toInt());
+    const QString ports = settings->value(QStringLiteral("port"), defaultPort).toString();
+    const bool hasPorts = ports.contains(QLatin1Char(','));
+    database.setPort(hasPorts ? -1 : ports.toInt());
     database.setDatabaseName(name);
     database.setUserName(settings->value(QStringLiteral("username"), QStringLiteral("billora")).toString());
     database.setPassword(settings->value(QStringLiteral("password")).toString());
@@ -48,11 +58,14 @@ bool PostgreSQLDatabase::open(QSettings *settings)
     QString options = QLatin1String(connectOptions);
     if (host.contains(QLatin1Char(','))) // of several servers the one that takes writes
         options += QLatin1String(";target_session_attrs=read-write");
+    if (hasPorts)
+        options += QLatin1String(";port=") + quoted(ports);
     for (const char *name : {"sslmode", "sslrootcert"}) {
         const QString value = settings->value(QLatin1String(name)).toString();
         if (!value.isEmpty())
-            options += QLatin1Char(';') + QLatin1String(name) + QLatin1Char('=') + value;
+            options += QLatin1Char(';') + QLatin1String(name) + QLatin1Char('=') + quoted(value);
     }
+    m_isPooled = settings->value(QStringLiteral("pooled")).toBool();
     database.setConnectOptions(options);
 
     bool ok = database.open();
@@ -62,9 +75,8 @@ bool PostgreSQLDatabase::open(QSettings *settings)
     if (!ok)
         return lastError().isEmpty() ? fail(database.lastError().text()) : false;
     // A client that stopped in the middle must not keep the others waiting for ever.
-    QSqlQuery limit(database);
-    if (!limit.exec(QStringLiteral("SET lock_timeout = '%1ms'").arg(lockTimeoutMs)))
-        return fail(limit.lastError().text());
+    if (!m_isPooled && !limitWaiting("SESSION"))
+        return false;
 
     const int version = upgrade();
     if (version == noTables && m_olderSchema != OlderSchema::kept)
@@ -116,15 +128,22 @@ int PostgreSQLDatabase::upgrade()
         fail(tr("Tietokannan rakenne on vanha"));
         return upgradeFailed;
     }
-    // One program at a time: two that run the same steps would write each other's version numbers.
-    if (!query.exec(QStringLiteral("SELECT pg_advisory_lock(%1)").arg(writerLock)) ||
-        !query.exec(QStringLiteral("SELECT version FROM settings")) || !query.next()) {
+    return upgradeFrom(version);
+}
+
+/** One program at a time: two that run the same steps would write each other's version numbers. */
+bool PostgreSQLDatabase::beginUpgradeStep(QSqlQuery &query, int fromVersion, bool &isDone)
+{
+    if (!beginWriting())
+        return false;
+    if (!query.exec(QStringLiteral("SELECT version FROM settings")) || !query.next()) {
         fail(query.lastError().text());
-        return upgradeFailed;
+        rollback();
+        return false;
     }
-    const int reached = upgradeFrom(query.value(0).toInt());
-    query.exec(QStringLiteral("SELECT pg_advisory_unlock(%1)").arg(writerLock));
-    return reached;
+    isDone = query.value(0).toInt() > fromVersion;
+    query.finish();
+    return !isDone || rollback();
 }
 
 int PostgreSQLDatabase::upgradeFrom(int version)
@@ -138,10 +157,21 @@ int PostgreSQLDatabase::upgradeFrom(int version)
     return ok ? schemaVersion : upgradeFailed;
 }
 
+bool PostgreSQLDatabase::limitWaiting(const char *scope)
+{
+    QSqlQuery query(connection(false));
+    return query.exec(QStringLiteral("SET %1 lock_timeout = '%2ms'").arg(QLatin1String(scope)).arg(lockTimeoutMs)) ||
+           fail(query.lastError().text());
+}
+
 bool PostgreSQLDatabase::beginWriting()
 {
     if (!transaction())
         return fail(connection(false).lastError().text());
+    if (m_isPooled && !limitWaiting("LOCAL")) {
+        rollback();
+        return false;
+    }
     QSqlQuery query(connection(false));
     if (query.exec(QStringLiteral("SELECT pg_advisory_xact_lock(%1)").arg(writerLock)))
         return true;
@@ -161,7 +191,7 @@ Query *PostgreSQLDatabase::query()
 {
     QSqlQuery statement(connection(true));
     statement.setForwardOnly(true);
-    return new PostgreSQLQuery(statement, this);
+    return new PostgreSQLQuery(statement, m_isPooled, this);
 }
 
 bool PostgreSQLDatabase::isLockError(const QString &reason) const

@@ -10,11 +10,13 @@ public:
     explicit PostgreSQLDatabase(QObject *parent = nullptr); ///< connects nothing
 
     /**
-     * Reads the keys "host" (several, with commas between: the one that takes writes), "port", "databaseName",
-     * "username", "password", "sslmode", "sslrootcert" and, for a new database, "name" (the seller's name). An existing
-     * database without tables is filled.
+     * Reads the keys "host" (several, with commas between: the one that takes writes), "port" (one for all, or as
+     * many), "databaseName", "username", "password", "sslmode", "sslrootcert", "pooled" (a pooler may change the
+     * connection from transaction to transaction: nothing is left on it) and, for a new database, "name" (the seller's
+     * name). An existing database without tables is filled.
      */
     bool open(QSettings *settings) override;
+    bool isRemote() const override { return true; }
     bool driverAvailable() const override;
     bool beginWriting() override; ///< waits up to five seconds for the lock that all writers of this program take
     bool beginReading() override; ///< repeatable read, read only
@@ -34,7 +36,12 @@ private:
     /** Takes lower-case names of letters, digits and underscores alone: they stand unquoted in the statement. */
     bool createDatabase(QSqlDatabase &database, const QString &name);
     int upgrade();                ///< @return the schema version that is reached, or one of the outcomes above
-    int upgradeFrom(int version); ///< the caller holds the lock of all writers. @return as upgrade()
+    int upgradeFrom(int version); ///< @return as upgrade()
+    /** With the lock of all writers, which ends with the step. */
+    bool beginUpgradeStep(QSqlQuery &query, int fromVersion, bool &isDone) override;
+    bool limitWaiting(const char *scope); ///< of a statement for another client's lock. @param scope  SESSION or LOCAL
+
+    bool m_isPooled = false; ///< see open()
 };
 
 #endif

@@ -7,7 +7,13 @@
 class PostgreSQLQuery : public Query {
     Q_OBJECT
 public:
-    using Query::Query;
+    /**
+     * @param isPooled  the connection may be another one from transaction to transaction: nothing is prepared on it
+     */
+    PostgreSQLQuery(const QSqlQuery &statement, bool isPooled, QObject *parent)
+        : Query(statement, parent), m_isPooled(isPooled)
+    {
+    }
 
 protected:
     /** What the backend does in its own way, see Query. */
@@ -21,10 +27,13 @@ protected:
     QString containsOperator() const override { return QStringLiteral("~"); }
     /** A prepared statement lives on the server, and is lost with the connection. */
     bool keepsStatements() const override { return false; }
+    bool preparesStatements() const override { return !m_isPooled; }
 
 private:
     /** The value that this connection drew last, whatever other clients do meanwhile; 0 on failure. */
     int sequenceValue(const QString &sequenceName);
+
+    const bool m_isPooled; ///< see the constructor
 };
 
 #endif

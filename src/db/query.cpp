@@ -8,8 +8,10 @@
 #include "printscript.h"
 #include "product.h"
 #include "settings.h"
+#include "sqltext.h"
 #include "tablecolumns.h"
 
+#include <QSqlDriver>
 #include <QSqlError>
 
 namespace {
@@ -60,6 +62,11 @@ bool Query::execute(const QString &sql, const QVariantList &values)
         m_refusal = refusal(value);
         if (!m_refusal.isEmpty())
             return false;
+    }
+    if (!preparesStatements()) {
+        m_query.finish();
+        m_prepareFailed = false;
+        return m_query.exec(SqlText::filled(*m_query.driver(), sql, values));
     }
     m_prepareFailed = !prepare(sql);
     if (m_prepareFailed)

@@ -203,6 +203,8 @@ protected:
     virtual QString escapeClause() const { return QStringLiteral(" ESCAPE '\\'"); }
     /** Whether prepared statements are kept for the next time: most of a small statement's time is its preparation. */
     virtual bool keepsStatements() const { return true; }
+    /** Whether statements are prepared at all, or sent as whole texts. */
+    virtual bool preparesStatements() const { return true; }
 
     QSqlQuery m_query; ///< the statement of the last operation
 

@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
+#include <QThread>
 
 namespace {
 
@@ -20,6 +21,13 @@ constexpr Fetch fetches[] = {&Registry::fetchBankAccounts, &Registry::fetchCusto
 
 /** Up to so many customers are read one by one rather than with the whole list. */
 constexpr int fewCustomers = 50;
+
+/** How long a connection is believed to be there without being asked, ms. */
+constexpr int trustedMs = 1000;
+
+/** How long a lost server is waited for, once: a standby is promoted, or the server starts again. */
+constexpr int reopenWaitMs = 30000;
+constexpr int reopenStepMs = 200;
 
 } // namespace
 
@@ -51,15 +59,25 @@ int DatabaseSession::findDatabaseIndex(int number) const
 
 bool DatabaseSession::ensureOpen()
 {
-    if (m_database && m_isSuspect && !m_query->isConnected())
-        m_lostNumber = m_number;
+    const bool isOld = !m_lastUse.isValid() || m_lastUse.hasExpired(trustedMs);
+    m_lastUse.start();
+    if (m_database && (m_isSuspect || (isOld && m_database->isRemote())) && !m_query->isConnected())
+        m_isLost = true;
     m_isSuspect = false;
-    if (!m_lostNumber)
+    if (!m_isLost)
         return openDatabase(-1, true);
-    const int lost = *m_lostNumber; // tried again by every command until it works or another one is chosen
-    const bool opened = openDatabase(lost, false);
-    if (!opened)
-        m_lostNumber = lost;
+    if (m_isEnclosed) // what was done before is gone with the connection
+        return m_listener.fail(Failure::connectionLost);
+    // Tried again by every command until it works or another database is chosen.
+    const int number = m_number;
+    const QVariantMap entry = m_entry;
+    m_isReopening = true;
+    const bool opened = entry.isEmpty() ? openDatabase(number, false) : openEntry(entry);
+    m_isReopening = false;
+    m_isLost = !opened;
+    m_hasWaited = !opened;
+    m_number = number;
+    m_entry = entry;
     return opened;
 }
 
@@ -69,7 +87,8 @@ bool DatabaseSession::openDatabase(int number, bool onlyIfClosed)
         return true;
     closeDatabase();
     m_number = number;
-    m_lostNumber.reset();
+    m_entry.clear();
+    m_isLost = false;
     const int index = findDatabaseIndex(number);
     if (index < 0)
         return m_listener.fail(Failure::noDatabaseListed);
@@ -92,7 +111,8 @@ bool DatabaseSession::openFile(const QString &fileName)
 bool DatabaseSession::openEntry(const QVariantMap &entry)
 {
     closeDatabase();
-    m_lostNumber.reset();
+    m_entry = entry;
+    m_isLost = false;
     for (ListState &list : m_lists) // the stored scripts too: a run may go through several companies
         list = ListState();
     // Opening would leave an empty file.
@@ -109,24 +129,39 @@ bool DatabaseSession::openEntry(const QVariantMap &entry)
     return openAt(&settings);
 }
 
-/** Opens the database whose keys the settings object is positioned on. */
-bool DatabaseSession::openAt(QSettings *settings)
+bool DatabaseSession::tryToOpen(QSettings *settings, bool isServer)
 {
-    const QString filename = settings->value(QStringLiteral("filename")).toString();
-    const QString type = settings->value(QStringLiteral("type"), QStringLiteral("sqlite")).toString();
-    if (type.compare(QLatin1String("postgresql"), Qt::CaseInsensitive) == 0) {
-        m_listener.note(Notice::openingPostgresql, {settings->value(QStringLiteral("databaseName")).toString()});
+    if (isServer)
         m_database = std::make_unique<PostgreSQLDatabase>();
-    } else {
-        m_listener.note(Notice::openingSqlite, {filename});
+    else
         m_database = std::make_unique<SQLiteDatabase>();
-    }
     m_database->setCreateIfNotExist(m_isCreating);
     m_database->setOlderSchema(m_isLook    ? Database::OlderSchema::kept
                                : m_isTrial ? Database::OlderSchema::refused
                                            : Database::OlderSchema::upgraded);
     m_database->setGlance(m_isGlance);
-    const bool opened = m_database->open(settings);
+    return m_database->open(settings);
+}
+
+/** Opens the database whose keys the settings object is positioned on. */
+bool DatabaseSession::openAt(QSettings *settings)
+{
+    const QString filename = settings->value(QStringLiteral("filename")).toString();
+    const QString type = settings->value(QStringLiteral("type"), QStringLiteral("sqlite")).toString();
+    const bool isServer = type.compare(QLatin1String("postgresql"), Qt::CaseInsensitive) == 0;
+    if (isServer)
+        m_listener.note(Notice::openingPostgresql, {settings->value(QStringLiteral("databaseName")).toString()});
+    else
+        m_listener.note(Notice::openingSqlite, {filename});
+    bool opened = tryToOpen(settings, isServer);
+    QElapsedTimer waited;
+    waited.start();
+    // A server that was there comes back, or another one takes its place.
+    while (!opened && isServer && m_isReopening && !m_hasWaited && !waited.hasExpired(reopenWaitMs)) {
+        QThread::msleep(reopenStepMs);
+        m_database->close();
+        opened = tryToOpen(settings, isServer);
+    }
     if (!opened || !m_database->exists()) {
         if (opened)
             m_listener.fail(Failure::databaseMissing, {filename});
@@ -135,6 +170,8 @@ bool DatabaseSession::openAt(QSettings *settings)
         closeDatabase();
         return false;
     }
+    m_hasWaited = false;
+    m_lastUse.start();
     m_query.reset(m_database->query());
     m_registry.setDatabase(m_database.get());
     m_registry.setConnected(true);

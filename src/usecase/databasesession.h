@@ -3,11 +3,11 @@
 
 #include "registry.h"
 
+#include <QElapsedTimer>
 #include <QSet>
 #include <QVariantMap>
 
 #include <memory>
-#include <optional>
 
 class Database;
 class QSettings;
@@ -37,7 +37,10 @@ public:
     [[nodiscard]] bool openFile(const QString &fileName);
     /** Opens the database of an entry of the list's form, see DatabaseList. @return as openFile() */
     [[nodiscard]] bool openEntry(const QVariantMap &entry);
-    /** What every data command does first. A server connection that was lost is made anew. */
+    /**
+     * What every data command does first. A server connection that was lost is made anew, for which a server is waited
+     * for up to half a minute: another one may be about to take its place. Not within a transaction: it is gone.
+     */
     [[nodiscard]] bool ensureOpen();
     void closeDatabase();
 
@@ -101,6 +104,7 @@ private:
 
     /** Place in the file's list, -1 for none; a number below 1 is the last used, else the first. */
     int findDatabaseIndex(int number) const;
+    bool tryToOpen(QSettings *settings, bool isServer); ///< positioned as for openAt(); tells no failure
     bool openAt(QSettings *settings); ///< positioned on the keys of a database; closes again on failure
 
     Registry &m_registry;                 ///< not owned
@@ -115,7 +119,11 @@ private:
     bool m_isLook = false;                ///< see setLook()
     bool m_isCreating = false;            ///< see setCreating()
     bool m_isEnclosed = false;            ///< see setEnclosed()
-    std::optional<int> m_lostNumber;      ///< as m_number, of a database whose connection is gone
+    QVariantMap m_entry;                  ///< the same of openEntry(); empty: by m_number
+    QElapsedTimer m_lastUse;              ///< since the last command began
+    bool m_isLost = false;                ///< the connection is gone: to be made again
+    bool m_isReopening = false;           ///< it is being made again
+    bool m_hasWaited = false;             ///< in vain: the next command tries once
 };
 
 #endif

@@ -241,7 +241,7 @@ constexpr Command commands[] = {
      &companyUpgradeTable,
      nullptr,
      {group(upgradeWords)},
-     "company upgrade --all -n\ncompany upgrade 1",
+     "company upgrade --all\ncompany upgrade 1",
      TEXT("Jatkaa virheen jälkeen seuraavasta yrityksestä; jos jokin ei onnistunut, paluuarvo on 6.")},
     {"company forget",
      TEXT("poistaa yrityksen luettelosta; tietokanta jää"),
