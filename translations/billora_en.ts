@@ -72,6 +72,34 @@
         <translation>removes bank accounts; payments stay</translation>
     </message>
     <message>
+        <source>uusi tiedosto, .zip tai .tar.zst</source>
+        <translation>new file, .zip or .tar.zst</translation>
+    </message>
+    <message>
+        <source>laskujen, suoritusten ja lähetysten ajanjakso, tavallisesti kuukausi</source>
+        <translation>period of invoices, payments and sent documents, usually a month</translation>
+    </message>
+    <message>
+        <source>ajanjaksolla pitää olla alku ja loppu</source>
+        <translation>the period needs a beginning and an end</translation>
+    </message>
+    <message>
+        <source>tiedoston nimen lopussa pitää olla .zip tai .tar.zst</source>
+        <translation>the name of the file must end in .zip or .tar.zst</translation>
+    </message>
+    <message>
+        <source>Arkisto %1: laskuja %2, suorituksia %3, lähetyksiä %4</source>
+        <translation>Archive %1: %2 invoices, %3 payments, %4 sent documents</translation>
+    </message>
+    <message>
+        <source>kuukausi kirjanpitäjälle yhtenä tiedostona</source>
+        <translation>a month for the bookkeeper in one file</translation>
+    </message>
+    <message>
+        <source>Laskut PDF-tiedostoina ja verkkolaskuina, luettelot, suoritukset, lähetettyjen päiväkirja, tarkistussummat ja sivu index.html. Sama kuukausi samoista tiedoista on tavulleen sama.</source>
+        <translation>The invoices as PDF files and e-invoices, lists, payments, the journal of sent documents, checksums and the page index.html. The same month of the same data has the same bytes.</translation>
+    </message>
+    <message>
         <source>yrityksen numero luettelossa</source>
         <translation>number of the company in the list</translation>
     </message>
@@ -2290,6 +2318,22 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
         <translation>invoices, customers and payments on the command line</translation>
     </message>
     <message>
+        <source>Yhteensä</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>Laskut</source>
+        <translation>Invoices</translation>
+    </message>
+    <message>
+        <source>Verkkolasku</source>
+        <translation>E-invoice</translation>
+    </message>
+    <message>
+        <source>Tiedostot</source>
+        <translation>Files</translation>
+    </message>
+    <message>
         <source>valinnalta %1 puuttuu arvo</source>
         <translation>the value of option %1 is missing</translation>
     </message>
@@ -2824,6 +2868,10 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>teksti riveillä, asiakkaan nimessä tai viitteissä</source>
         <translation>text in rows, the customer's name or references</translation>
+    </message>
+    <message>
+        <source>Pakkaamisen kirjasto puuttuu: %1</source>
+        <translation>The library of archives is missing: %1</translation>
     </message>
     <message>
         <source>Suoritus on jo tallennettu</source>

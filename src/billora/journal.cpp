@@ -57,25 +57,6 @@ bool parse(const QByteArray &text, Head &head)
     return head.lines >= 0 && head.hash.size() == noLine.size();
 }
 
-QByteArray format(const JournalRecord &line)
-{
-    QByteArray text;
-    JsonWriter json(text);
-    json.beginObject();
-    json.member("line", line.line);
-    json.member("time", line.time);
-    json.member("invoice", line.invoiceNumber);
-    json.member("id", line.invoiceId);
-    json.member("kind", line.kind);
-    json.member("format", line.format);
-    json.member("file", line.file);
-    json.member("sha256", line.sha256);
-    json.member("record", line.record);
-    json.member("previous", line.previous);
-    json.endObject();
-    return text;
-}
-
 /** The end that new lines are chained to. */
 Head endOf(const QByteArray &storedHead, const QByteArray &last)
 {
@@ -104,13 +85,32 @@ Head endOf(const QByteArray &storedHead, const QByteArray &last)
 
 } // namespace
 
+QByteArray Journal::text(const JournalRecord &line)
+{
+    QByteArray bytes;
+    JsonWriter json(bytes);
+    json.beginObject();
+    json.member("line", line.line);
+    json.member("time", line.time);
+    json.member("invoice", line.invoiceNumber);
+    json.member("id", line.invoiceId);
+    json.member("kind", line.kind);
+    json.member("format", line.format);
+    json.member("file", line.file);
+    json.member("sha256", line.sha256);
+    json.member("record", line.record);
+    json.member("previous", line.previous);
+    json.endObject();
+    return bytes;
+}
+
 bool Journal::fail(Task &task, const JournalStore &store)
 {
     if (store.isInDatabase())
         return task.context().session.failDatabase(store.lastError());
     return task.fail(
         Problem::file,
-        text(TEXT("lähetettyjen päiväkirjaa %1 ei voi käyttää: %2")).arg(store.place(), store.lastError()));
+        ::text(TEXT("lähetettyjen päiväkirjaa %1 ei voi käyttää: %2")).arg(store.place(), store.lastError()));
 }
 
 bool Journal::parse(const QByteArray &text, JournalRecord &line)
@@ -161,7 +161,7 @@ bool Journal::append(Task &task, const QVector<JournalRecord> &lines)
     for (JournalRecord line : lines) {
         line.line = ++head.lines;
         line.previous = head.hash;
-        added.append({line.line, line.invoiceId, format(line)});
+        added.append({line.line, line.invoiceId, text(line)});
         head.hash = hashOf(added.last().text);
     }
     Head intent = head;
@@ -208,22 +208,22 @@ bool Journal::verify(Task &task, const std::function<void(const JournalRecord &)
         JournalRecord line;
         ++place;
         if (!parse(bytes, line)) {
-            tell(place, 0, "broken", text(TEXT("kohta %1 ei ole päiväkirjan rivi")).arg(place));
+            tell(place, 0, "broken", ::text(TEXT("kohta %1 ei ole päiväkirjan rivi")).arg(place));
             return true;
         }
         if (line.line > last.line + 1)
             tell(line.line, line.invoiceNumber, "removed",
-                 line.line == last.line + 2 ? text(TEXT("rivi %1 puuttuu")).arg(last.line + 1)
-                                            : text(TEXT("rivit %1–%2 puuttuvat"))
+                 line.line == last.line + 2 ? ::text(TEXT("rivi %1 puuttuu")).arg(last.line + 1)
+                                            : ::text(TEXT("rivit %1–%2 puuttuvat"))
                                                   .arg(QString::number(last.line + 1), QString::number(line.line - 1)));
         else if (line.line <= last.line)
             tell(line.line, line.invoiceNumber, "added",
-                 text(TEXT("rivi %1 on rivin %2 jäljessä: lisätty tai siirretty"))
+                 ::text(TEXT("rivi %1 on rivin %2 jäljessä: lisätty tai siirretty"))
                      .arg(QString::number(line.line), QString::number(last.line)));
         else if (line.previous != last.hash && last.line > 0)
-            tell(last.line, last.invoiceNumber, "changed", text(TEXT("riviä %1 on muutettu")).arg(last.line));
+            tell(last.line, last.invoiceNumber, "changed", ::text(TEXT("riviä %1 on muutettu")).arg(last.line));
         else if (line.previous != last.hash)
-            tell(line.line, line.invoiceNumber, "changed", text(TEXT("riviä %1 on muutettu")).arg(line.line));
+            tell(line.line, line.invoiceNumber, "changed", ::text(TEXT("riviä %1 on muutettu")).arg(line.line));
         sent(line);
         last = line;
         if (line.line > highest.line)
@@ -237,25 +237,25 @@ bool Journal::verify(Task &task, const std::function<void(const JournalRecord &)
     const bool hasHead = parse(storedHead, head);
     if (!hasHead) {
         if (place > 0)
-            tell(last.line, 0, "head", text(TEXT("tieto viimeisestä rivistä puuttuu: lopusta voi puuttua rivejä")));
+            tell(last.line, 0, "head", ::text(TEXT("tieto viimeisestä rivistä puuttuu: lopusta voi puuttua rivejä")));
         return true;
     }
     if (head.restartedAt > 0)
         tell(head.restartedAt, 0, "head",
-             text(TEXT("tieto viimeisestä rivistä puuttui ennen riviä %1: lopusta on voinut puuttua rivejä"))
+             ::text(TEXT("tieto viimeisestä rivistä puuttui ennen riviä %1: lopusta on voinut puuttua rivejä"))
                  .arg(head.restartedAt));
     if (head.earlierLines >= 0 && last.line == head.earlierLines && last.hash == head.earlierHash)
         return true; // the last addition broke off and was answered to nobody
     if (last.line < head.lines)
         tell(head.lines, 0, "removed",
-             last.line + 1 == head.lines ? text(TEXT("viimeinen rivi %1 puuttuu")).arg(head.lines)
-                                         : text(TEXT("viimeiset rivit %1–%2 puuttuvat"))
+             last.line + 1 == head.lines ? ::text(TEXT("viimeinen rivi %1 puuttuu")).arg(head.lines)
+                                         : ::text(TEXT("viimeiset rivit %1–%2 puuttuvat"))
                                                .arg(QString::number(last.line + 1), QString::number(head.lines)));
     else if (last.line > head.lines)
         tell(last.line, last.invoiceNumber, "added",
-             text(TEXT("rivi %1 on lisätty viimeisen rivin %2 jälkeen"))
+             ::text(TEXT("rivi %1 on lisätty viimeisen rivin %2 jälkeen"))
                  .arg(QString::number(last.line), QString::number(head.lines)));
     else if (last.hash != head.hash)
-        tell(last.line, last.invoiceNumber, "changed", text(TEXT("riviä %1 on muutettu")).arg(last.line));
+        tell(last.line, last.invoiceNumber, "changed", ::text(TEXT("riviä %1 on muutettu")).arg(last.line));
     return true;
 }

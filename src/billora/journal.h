@@ -24,6 +24,8 @@ struct Filter {
     bool matches(const JournalRecord &line) const;
 };
 
+QByteArray text(const JournalRecord &line); ///< as it stands in the journal, without LF
+
 /** @return false for what is no line of a journal */
 bool parse(const QByteArray &text, JournalRecord &line);
 

@@ -27,6 +27,7 @@ constexpr const char *layers[] = {"billora",
                                   "ScriptRunner",
                                   "PrintScriptManager",
                                   "PdfOutput",
+                                  "ArchiveFile",
                                   "XmlScriptEnvironment"};
 
 class LayerTranslator : public QTranslator {

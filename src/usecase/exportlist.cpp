@@ -123,6 +123,7 @@ bool ExportList::run(UseCaseContext &context, Kind kind, const Request &request,
     const std::unique_ptr<PrintModel> model = list.makeModel(context, request);
     if (!model || !ExportTools::runModel(context, *model))
         return false;
+    model->setToday(request.day);
     const bool csv = request.format.value_or(ExportTools::guessFormat(request.fileName, false)) == csvFormat;
     fileName = request.fileName;
     if (fileName.isEmpty())

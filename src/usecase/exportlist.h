@@ -27,6 +27,7 @@ struct Request {
     QString fileName;                           ///< empty: the list's own name
     std::optional<PrintFormat> format;          ///< else by the file name
     QString csvDelimiter = QStringLiteral(","); ///< one character
+    QDate day;                                  ///< that the list shows as its own; invalid: today
     bool keepsFiles = false;                    ///< a file of the name is a failure, not overwritten
     bool makesFolders = false;                  ///< of the file name
     bool isTrial = false;                       ///< tells the file and writes none

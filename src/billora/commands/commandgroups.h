@@ -8,6 +8,7 @@
 // The commands of each noun are a table in a file of its own.
 
 CommandGroup wholeCompanyCommands(); ///< init, status, check, backup, optimize: no noun of their own
+CommandGroup archiveCommands();      ///< archive
 /** Tables with static lifetime, each in the order in which help lists them. */
 CommandGroup invoiceCommands();
 CommandGroup rowCommands();
