@@ -1,5 +1,6 @@
 #include "invoicereader.h"
 
+#include "database.h"
 #include "query.h"
 #include "registry.h"
 #include "rowterms.h"
@@ -77,19 +78,24 @@ bool InvoiceReader::read(Task &task, const InvoiceSelection &selection, bool wit
     Query *query = session.query();
     const QDate day = selection.asOf.isValid() ? selection.asOf : task.reader.today();
     // While the list stands, the rows of a chunk are read by a statement of their own; those of the last one are not,
-    // and the statements of a single invoice are so the session's, which are kept.
+    // and the statements of a single invoice are so the session's, which are kept. A connection to PostgreSQL carries
+    // one answer at a time: there the list is read to its end first.
+    const bool isInterleaved = session.database()->isSQLite();
     std::unique_ptr<Query> details;
     const int roundingMode = withDetails ? task.session.registry().settings()->roundingMode() : 0;
     if (!query->fetchInvoiceList(selection, withDetails))
         return session.failQuery();
-    QVector<InvoiceRecord> chunk;
+    QVector<InvoiceRecord> waiting;
     bool isWanted = true;
     const auto pass = [&](Query &rows) {
-        if (withDetails && !chunk.isEmpty() && !addDetails(rows, chunk, roundingMode))
-            return session.failDatabase(rows.lastError());
-        for (const InvoiceRecord &record : qAsConst(chunk))
-            isWanted = isWanted && each(record);
-        chunk.clear();
+        for (int first = 0; isWanted && first < waiting.size(); first += chunkSize) {
+            QVector<InvoiceRecord> chunk = waiting.mid(first, chunkSize);
+            if (!addDetails(rows, chunk, roundingMode))
+                return session.failDatabase(rows.lastError());
+            for (const InvoiceRecord &record : qAsConst(chunk))
+                isWanted = isWanted && each(record);
+        }
+        waiting.clear();
         return true;
     };
     while (isWanted && query->next()) {
@@ -100,8 +106,8 @@ bool InvoiceReader::read(Task &task, const InvoiceSelection &selection, bool wit
             isWanted = each(record);
             continue;
         }
-        chunk.append(record);
-        if (chunk.size() < chunkSize)
+        waiting.append(record);
+        if (waiting.size() < chunkSize || !isInterleaved)
             continue;
         if (!details)
             details = session.newQuery();
@@ -111,7 +117,7 @@ bool InvoiceReader::read(Task &task, const InvoiceSelection &selection, bool wit
     if (isWanted && query->hasReadError())
         return session.failQuery();
     query->finish();
-    return !isWanted || pass(*query);
+    return pass(*query);
 }
 
 bool InvoiceReader::readWhole(Task &task, int id, InvoiceRecord &record)
