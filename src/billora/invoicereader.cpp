@@ -80,7 +80,7 @@ bool InvoiceReader::read(Task &task, const InvoiceSelection &selection, bool wit
     // While the list stands, the rows of a chunk are read by a statement of their own; those of the last one are not,
     // and the statements of a single invoice are so the session's, which are kept. A connection to PostgreSQL carries
     // one answer at a time: there the list is read to its end first.
-    const bool isInterleaved = session.database()->isSQLite();
+    const bool isInterleaved = session.database()->readsTogether();
     std::unique_ptr<Query> details;
     const int roundingMode = withDetails ? task.session.registry().settings()->roundingMode() : 0;
     if (!query->fetchInvoiceList(selection, withDetails))

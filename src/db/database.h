@@ -94,6 +94,8 @@ public:
 
     /** @return a new statement on this connection, owned by the caller */
     virtual Query *query();
+    /** Whether one answer may be read while another one of the connection stands open. */
+    bool readsTogether() const { return isSQLite(); }
 
 protected:
     /** @param connectionName  one per backend: a second database of the kind takes the connection over */

@@ -147,7 +147,7 @@ void WhereClauseTest::textOperatorOfTheServer()
     criteria.text = QStringLiteral("a");
     QString sql;
     QVariantList params;
-    PostgreSQLQuery(QSqlQuery(), nullptr).buildInvoiceWhereClause(&criteria, sql, params, QString(), QString());
+    PostgreSQLQuery(QSqlQuery(), false, nullptr).buildInvoiceWhereClause(&criteria, sql, params, QString(), QString());
     QCOMPARE(sql, QStringLiteral("id IN (SELECT invoice_id FROM invoice_item WHERE text ILIKE ? ESCAPE E'\\\\')"));
 }
 
