@@ -89,7 +89,7 @@
     </message>
     <message>
         <source>Arkisto %1: laskuja %2, suorituksia %3, lähetyksiä %4</source>
-        <translation>Archive %1: %2 invoices, %3 payments, %4 sent documents</translation>
+        <translation>Archive %1: invoices %2, payments %3, sent documents %4</translation>
     </message>
     <message>
         <source>kuukausi kirjanpitäjälle yhtenä tiedostona</source>
