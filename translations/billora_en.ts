@@ -344,6 +344,34 @@
         <translation>invoice %1 is a credit note already</translation>
     </message>
     <message>
+        <source>luettelo laskuista</source>
+        <translation>lists invoices</translation>
+    </message>
+    <message>
+        <source>koko lasku: rivit, verot, suoritukset</source>
+        <translation>a whole invoice: rows, VAT, payments</translation>
+    </message>
+    <message>
+        <source>uusi lasku; seuraava numero ja viite</source>
+        <translation>a new invoice; the next number and reference</translation>
+    </message>
+    <message>
+        <source>muuttaa laskua; ilman kenttiä muokkaimessa riveineen</source>
+        <translation>changes an invoice; without fields in the editor, with its rows</translation>
+    </message>
+    <message>
+        <source>poistaa laskuja riveineen ja suorituksineen</source>
+        <translation>removes invoices with their rows and payments</translation>
+    </message>
+    <message>
+        <source>uusi lasku samoin rivein</source>
+        <translation>a new invoice with the same rows</translation>
+    </message>
+    <message>
+        <source>hyvityslasku, joka viittaa alkuperäiseen</source>
+        <translation>a credit note that refers to its original</translation>
+    </message>
+    <message>
         <source>maksumuistutus</source>
         <translation>payment reminder</translation>
     </message>
@@ -450,34 +478,6 @@
     <message>
         <source>Laskua %1 ei viety: %2</source>
         <translation>Invoice %1 was not exported: %2</translation>
-    </message>
-    <message>
-        <source>luettelo laskuista</source>
-        <translation>lists invoices</translation>
-    </message>
-    <message>
-        <source>koko lasku: rivit, verot, suoritukset</source>
-        <translation>a whole invoice: rows, VAT, payments</translation>
-    </message>
-    <message>
-        <source>uusi lasku; seuraava numero ja viite</source>
-        <translation>a new invoice; the next number and reference</translation>
-    </message>
-    <message>
-        <source>muuttaa laskua; ilman kenttiä muokkaimessa riveineen</source>
-        <translation>changes an invoice; without fields in the editor, with its rows</translation>
-    </message>
-    <message>
-        <source>poistaa laskuja riveineen ja suorituksineen</source>
-        <translation>removes invoices with their rows and payments</translation>
-    </message>
-    <message>
-        <source>uusi lasku samoin rivein</source>
-        <translation>a new invoice with the same rows</translation>
-    </message>
-    <message>
-        <source>hyvityslasku, joka viittaa alkuperäiseen</source>
-        <translation>a credit note that refers to its original</translation>
     </message>
     <message>
         <source>tarkistaa, voiko laskut lähettää verkkolaskuina</source>

@@ -100,8 +100,9 @@ bool readPeriod(Task &task, const char *name, QDate &from, QDate &to)
     return true;
 }
 
-/** The index of a choice, unchanged when the option is not given. */
-bool readChoice(Task &task, const char *name, const Choice *choices, int &index)
+} // namespace
+
+bool Selection::readChoice(Task &task, const char *name, const Choice *choices, int &index)
 {
     QString word;
     if (!task.arguments.has(name))
@@ -114,8 +115,6 @@ bool readChoice(Task &task, const char *name, const Choice *choices, int &index)
     }
     return true;
 }
-
-} // namespace
 
 bool Selection::readInvoiceWords(Task &task, const char *option, InvoiceSelection &selection)
 {

@@ -48,6 +48,8 @@ inline constexpr Option allOption[] = {
  */
 [[nodiscard]] bool readInvoices(Task &task, InvoiceSelection &selection, bool needsSome);
 
+/** Reads an option into the place among its choices; unchanged when it is not given. */
+[[nodiscard]] bool readChoice(Task &task, const char *name, const Choice *choices, int &index);
 /** `-balance`: reads `sort` by the keys that there are. */
 [[nodiscard]] bool readSort(Task &task, const QStringList &keys, QString &sort, bool &descending);
 /** `limit`: unchanged when not given. */

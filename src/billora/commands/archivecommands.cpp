@@ -3,10 +3,10 @@
 #include "archivefile.h"
 #include "exportinvoices.h"
 #include "exportlist.h"
+#include "findingtexts.h"
 #include "invoicereader.h"
 #include "journal.h"
 #include "jsonwriter.h"
-#include "language.h"
 #include "monthpage.h"
 #include "query.h"
 #include "selection.h"
@@ -86,12 +86,7 @@ bool addDocuments(Task &task, Month &month, PrintFormat format, const char *fold
     if (!ExportInvoices::run(task.context(), request, files))
         return false;
     for (const ExportInvoices::File &file : qAsConst(files)) {
-        QStringList reasons = file.exception.mid(0, 1);
-        for (const EInvoice::Finding &finding : file.findings) {
-            if (finding.severity == EInvoice::Severity::error)
-                reasons.append(QLatin1String(finding.rule) + QLatin1String(": ") +
-                               (Language::current() == Language::english ? finding.english : finding.finnish));
-        }
+        const QStringList reasons = file.exception.mid(0, 1) + FindingTexts::errors(file.findings);
         if (!reasons.isEmpty())
             month.page.remarks[file.invoiceId] = reasons.join(QLatin1String("; "));
         if (!file.exception.isEmpty() && isPaper)

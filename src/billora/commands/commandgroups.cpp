@@ -2,7 +2,7 @@
 
 QVector<CommandGroup> commandGroups()
 {
-    return {wholeCompanyCommands(), archiveCommands(), invoiceCommands(),  rowCommands(),    customerCommands(),
-            productCommands(),      accountCommands(), paymentCommands(),  reportCommands(), journalCommands(),
-            layoutCommands(),       companyCommands(), settingsCommands(), programCommands()};
+    return {wholeCompanyCommands(), archiveCommands(), invoiceCommands(), invoiceDocumentCommands(), rowCommands(),
+            customerCommands(),     productCommands(), accountCommands(), paymentCommands(),         reportCommands(),
+            journalCommands(),      layoutCommands(),  companyCommands(), settingsCommands(),        programCommands()};
 }

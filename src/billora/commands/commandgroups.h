@@ -11,6 +11,7 @@ CommandGroup wholeCompanyCommands(); ///< init, status, check, backup, optimize:
 CommandGroup archiveCommands();      ///< archive
 /** Tables with static lifetime, each in the order in which help lists them. */
 CommandGroup invoiceCommands();
+CommandGroup invoiceDocumentCommands(); ///< invoice check, invoice export
 CommandGroup rowCommands();
 CommandGroup customerCommands();
 CommandGroup productCommands();
