@@ -17,7 +17,11 @@
 namespace {
 
 /** What the first line holds in place of the hash of the line before. */
-const QString noLine(64, QLatin1Char('0'));
+const QString &noLine()
+{
+    static const QString zeros(64, QLatin1Char('0'));
+    return zeros;
+}
 
 QString hashOf(const QByteArray &text)
 {
@@ -25,11 +29,11 @@ QString hashOf(const QByteArray &text)
 }
 
 struct Head {
-    int lines = 0;         ///< the number of the last line
-    QString hash = noLine; ///< its
-    int earlierLines = -1; ///< of the line that was the last before an addition that broke off; -1: none did
-    QString earlierHash;   ///< its, null for none
-    int restartedAt = 0;   ///< the first line since the head was missing; 0: it never was
+    int lines = 0;           ///< the number of the last line
+    QString hash = noLine(); ///< its
+    int earlierLines = -1;   ///< of the line that was the last before an addition that broke off; -1: none did
+    QString earlierHash;     ///< its, null for none
+    int restartedAt = 0;     ///< the first line since the head was missing; 0: it never was
 };
 
 QByteArray format(const Head &head)
@@ -54,14 +58,14 @@ bool parse(const QByteArray &text, Head &head)
     head.earlierLines = object.value(QLatin1String("earlierLines")).toInt(-1);
     head.earlierHash = object.value(QLatin1String("earlierSha256")).toString();
     head.restartedAt = object.value(QLatin1String("restartedAt")).toInt();
-    return head.lines >= 0 && head.hash.size() == noLine.size();
+    return head.lines >= 0 && head.hash.size() == noLine().size();
 }
 
 /** The end that new lines are chained to. */
 Head endOf(const QByteArray &storedHead, const QByteArray &last)
 {
     Head head;
-    const QString lastHash = last.isEmpty() ? noLine : hashOf(last);
+    const QString lastHash = last.isEmpty() ? noLine() : hashOf(last);
     if (parse(storedHead, head)) {
         // A break between head and lines: what was being added is not there, and was answered to nobody.
         if (head.earlierLines >= 0 && head.earlierHash == lastHash) {
@@ -128,7 +132,7 @@ bool Journal::parse(const QByteArray &text, JournalRecord &line)
     line.record = word("record");
     line.previous = word("previous");
     line.hash = hashOf(text);
-    return line.line > 0 && line.invoiceId >= 0 && line.previous.size() == noLine.size();
+    return line.line > 0 && line.invoiceId >= 0 && line.previous.size() == noLine().size();
 }
 
 bool Journal::Filter::matches(const JournalRecord &line) const
@@ -177,10 +181,13 @@ bool Journal::read(Task &task, const std::function<bool(const JournalRecord &, b
     const std::unique_ptr<JournalStore> store = task.context().session.database()->journal();
     QByteArray head;
     int place = 0;
+    const QByteArray id = "\"id\":" + QByteArray::number(invoiceId) + ',';
     const auto take = [&](const QByteArray &text) {
+        ++place;
+        if (invoiceId >= 0 && !text.contains(id)) // long journals are looked through for every change
+            return true;
         JournalRecord line;
         const bool isLine = parse(text, line);
-        ++place;
         if (!isLine)
             line.line = place;
         return each(line, isLine);
@@ -202,7 +209,7 @@ bool Journal::verify(Task &task, const std::function<void(const JournalRecord &)
     };
     QByteArray storedHead;
     JournalRecord last, highest;
-    last.hash = noLine;
+    last.hash = noLine();
     int place = 0;
     const auto take = [&](const QByteArray &bytes) {
         JournalRecord line;

@@ -104,25 +104,40 @@ bool SentDocuments::record(const QVector<ExportInvoices::File> &files, const QSt
     return lines.isEmpty() || Journal::append(m_task, lines);
 }
 
-bool SentDocuments::isSent(Task &task, int invoiceId, bool &isSent)
+bool SentDocuments::find(Task &task, const QSet<int> &ids, QSet<int> &sent)
 {
-    isSent = false;
-    return Journal::read(
-        task,
-        [&](const JournalRecord &line, bool isLine) {
-            isSent = isLine && line.invoiceId == invoiceId;
-            return !isSent;
-        },
-        invoiceId);
+    const auto take = [&](const JournalRecord &line, bool isLine) {
+        if (isLine && ids.contains(line.invoiceId))
+            sent.insert(line.invoiceId);
+        return sent.size() < ids.size();
+    };
+    return Journal::read(task, take, ids.size() == 1 ? *ids.begin() : -1);
+}
+
+bool SentDocuments::remarkOf(Task &task, const QVector<Invoice> &invoices, QString &remark)
+{
+    QSet<int> ids, sent;
+    for (const Invoice &invoice : invoices)
+        ids.insert(invoice.id);
+    if (!find(task, ids, sent))
+        return false;
+    for (const Invoice &invoice : invoices) {
+        if (sent.contains(invoice.id)) {
+            remark = text(TEXT("Lasku %1 on lähetetty.")).arg(invoice.number) + QLatin1Char(' ');
+            break;
+        }
+    }
+    return true;
 }
 
 bool SentDocuments::agreesToChange(Task &task, const Invoice &invoice)
 {
-    bool wasSent = false;
     if (task.manners.agreesToAll || task.manners.isDryRun)
         return true;
-    if (!isSent(task, invoice.id, wasSent))
+    QSet<int> sent;
+    if (!find(task, {invoice.id}, sent))
         return false;
+    const bool wasSent = !sent.isEmpty();
     if (wasSent && !task.manners.isInteractive)
         return task.fail(Problem::needsConfirmation,
                          text(TEXT("lasku %1 on lähetetty; muutos vaatii valinnan --yes")).arg(invoice.number));

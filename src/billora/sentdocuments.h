@@ -6,6 +6,8 @@
 #include "records.h"
 
 #include <QHash>
+#include <QSet>
+#include <QVector>
 
 class Task;
 
@@ -29,8 +31,10 @@ public:
 
     /** SHA-256, hexadecimal, of an invoice with its rows and customer: all that `invoice show` tells but payments. */
     static QString hashOf(const InvoiceRecord &record);
-    /** @return false with the failure told */
-    [[nodiscard]] static bool isSent(Task &task, int invoiceId, bool &isSent);
+    /** Finds those of the invoices that were sent, by their ids. @return false with the failure told */
+    [[nodiscard]] static bool find(Task &task, const QSet<int> &ids, QSet<int> &sent);
+    /** A sentence before a question where the invoice was sent. @return as find() */
+    [[nodiscard]] static bool remarkOf(Task &task, const QVector<Invoice> &invoices, QString &remark);
     /**
      * Asks before an invoice is changed that was sent. @return false, with the problem told, when the answer is no or
      * nobody can be asked

@@ -1,11 +1,11 @@
 #include "pdfoutput.h"
 
+#include "utczone.h"
+
 #include <QFile>
 #include <QFileInfo>
 #include <QPainter>
 #include <QPrinter>
-
-#include <ctime>
 
 PdfOutput::PdfOutput(QPrinter *printer, const QDate &date)
     : m_printer(printer), m_date(date),
@@ -61,17 +61,8 @@ bool PdfOutput::begin(QPainter &painter)
     if (!open())
         return false;
     // The library writes the creation now, with the offset from UTC behind it, which would be longer elsewhere.
-    const bool hasZone = qEnvironmentVariableIsSet("TZ");
-    const QByteArray zone = qgetenv("TZ");
-    qputenv("TZ", "UTC0");
-    tzset();
-    const bool hasBegun = painter.begin(m_printer);
-    if (hasZone)
-        qputenv("TZ", zone);
-    else
-        qunsetenv("TZ");
-    tzset();
-    return hasBegun;
+    const UtcZone utc;
+    return painter.begin(m_printer);
 }
 
 bool PdfOutput::commit()

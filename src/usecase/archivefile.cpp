@@ -1,12 +1,12 @@
 #include "archivefile.h"
 
 #include "outputfile.h"
+#include "utczone.h"
 
 #include <QLibrary>
 
 #include <archive.h>
 #include <archive_entry.h>
-#include <ctime>
 
 namespace {
 
@@ -53,30 +53,6 @@ la_ssize_t take(archive *, void *device, const void *bytes, size_t size)
 
 bool isZip(const QString &fileName) { return fileName.endsWith(QLatin1String(".zip"), Qt::CaseInsensitive); }
 
-/** The day stands in zip files as local time. */
-class InUtc {
-public:
-    InUtc() : m_isSet(qEnvironmentVariableIsSet("TZ")), m_zone(qgetenv("TZ"))
-    {
-        qputenv("TZ", "UTC0");
-        tzset();
-    }
-    ~InUtc()
-    {
-        if (m_isSet)
-            qputenv("TZ", m_zone);
-        else
-            qunsetenv("TZ");
-        tzset();
-    }
-    InUtc(const InUtc &) = delete;
-    InUtc &operator=(const InUtc &) = delete;
-
-private:
-    const bool m_isSet;
-    const QByteArray m_zone;
-};
-
 } // namespace
 
 bool ArchiveFile::isKnown(const QString &fileName)
@@ -98,7 +74,7 @@ bool ArchiveFile::write(const QString &fileName, qint64 secondsSinceEpoch)
     OutputFile output(fileName);
     if (!output.open())
         return fail(output.errorString());
-    const InUtc inUtc;
+    const UtcZone utc; // the day stands in zip files as local time
     archive *const target = library.archive_write_new();
     bool isRight = isZip(fileName) ? library.archive_write_set_format_zip(target) == ARCHIVE_OK
                                    : library.archive_write_set_format_ustar(target) == ARCHIVE_OK &&

@@ -278,11 +278,11 @@ bool remove(Task &task)
     InvoiceSelection selection;
     if (!Selection::readInvoices(task, selection, true))
         return false;
-    WriteTransaction transaction(task.context().session);
     QVector<InvoiceRecord> records;
-    if (!transaction.hasBegun() ||
-        !InvoiceReader::read(task, selection, false, [&records](const InvoiceRecord &record) {
+    QVector<Invoice> invoices;
+    if (!InvoiceReader::read(task, selection, false, [&](const InvoiceRecord &record) {
             records.append(record);
+            invoices.append(record.invoice);
             return true;
         }))
         return false;
@@ -297,21 +297,19 @@ bool remove(Task &task)
                                   record.customerName, ValueWriter::money(record.invoice.totalAmount)));
     }
     QString remark;
-    for (int i = 0; i < records.size() && remark.isEmpty() && task.manners.isInteractive; ++i) {
-        bool wasSent = false;
-        if (!SentDocuments::isSent(task, records.at(i).invoice.id, wasSent))
-            return false;
-        if (wasSent)
-            remark = text(TEXT("Lasku %1 on lähetetty.")).arg(records.at(i).invoice.number) + QLatin1Char(' ');
-    }
+    if (task.manners.isInteractive && !SentDocuments::remarkOf(task, invoices, remark))
+        return false;
     const QString all = records.size() == 1
                             ? text(TEXT("Poistetaanko lasku riveineen ja suorituksineen?"))
                             : text(TEXT("Poistetaanko %1 laskua riveineen ja suorituksineen?")).arg(records.size());
     const QString question = lines.join(QLatin1Char('\n')) + QLatin1Char('\n') + remark + all;
     if (!task.confirm(question, records.size(), task.flag("all")))
         return false;
-    for (const InvoiceRecord &record : qAsConst(records)) {
-        if (!RecordEditing::removeInvoice(task.context(), record.invoice.id))
+    WriteTransaction transaction(task.context().session); // not before: while a person thinks, others can write
+    if (!transaction.hasBegun())
+        return false;
+    for (const Invoice &invoice : qAsConst(invoices)) {
+        if (!RecordEditing::removeInvoice(task.context(), invoice.id))
             return false;
     }
     if (!transaction.commit())

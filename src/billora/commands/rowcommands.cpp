@@ -92,9 +92,8 @@ bool edit(Task &task)
 
 bool remove(Task &task)
 {
-    WriteTransaction transaction(task.context().session);
     Invoice invoice;
-    if (!transaction.hasBegun() || !findInvoice(task, invoice))
+    if (!findInvoice(task, invoice))
         return false;
     QVector<int> ids;
     const QStringList words = task.arguments.texts("row");
@@ -106,14 +105,15 @@ bool remove(Task &task)
             ids.append(item.id);
     }
     const QString places = words.join(QLatin1String(", "));
-    bool wasSent = false;
-    if (task.manners.isInteractive && !SentDocuments::isSent(task, invoice.id, wasSent))
+    QString remark;
+    if (task.manners.isInteractive && !SentDocuments::remarkOf(task, {invoice}, remark))
         return false;
-    const QString remark =
-        wasSent ? text(TEXT("Lasku %1 on lähetetty.")).arg(invoice.number) + QLatin1Char(' ') : QString();
     if (!task.confirm(remark +
                           text(TEXT("Poistetaanko laskulta %1 rivi %2?")).arg(QString::number(invoice.number), places),
                       ids.size(), false))
+        return false;
+    WriteTransaction transaction(task.context().session); // not before: while a person thinks, others can write
+    if (!transaction.hasBegun())
         return false;
     for (const int id : qAsConst(ids)) {
         if (!task.context().session.query()->deleteInvoiceItem(id))
