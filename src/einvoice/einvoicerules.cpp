@@ -1,5 +1,6 @@
 #include "einvoicerules.h"
 
+#include "checkdigits.h"
 #include "customer.h"
 #include "decimaltext.h"
 #include "einvoicecodes.h"
@@ -10,6 +11,7 @@
 #include <QRegularExpression>
 
 #include <algorithm>
+#include <cstring>
 
 namespace {
 
@@ -111,7 +113,7 @@ bool isWrongReference(const QString &reference)
     if (reference.isEmpty() || !isReferenceForm(reference))
         return false;
     if (reference.startsWith(QLatin1String("RF")))
-        return Integer::isDigits(reference.midRef(4)) && Invoice::referenceNumberToRf(reference.mid(4)) != reference;
+        return CheckDigits::modulo97((reference.mid(4) + reference.left(4)).toUpper()) != 1;
     return reference.size() < 4 || Invoice::calculateReferenceNumberCheckDigit(reference.chopped(1)) !=
                                        reference.at(reference.size() - 1).digitValue();
 }
@@ -155,13 +157,16 @@ bool isSwedish(const QString &id)
     return sum % 10 == 0;
 }
 
-/** A buyer's address of a national scheme: so many digits, with a check. */
-Breaches wrongNational(const Document &document, const char *scheme, int digits, bool (*isRight)(const QString &))
+/** A buyer's address of a national scheme: so many digits, with a check, perhaps behind the country's letters. */
+Breaches wrongNational(const Document &document, const char *scheme, int digits, bool (*isRight)(const QString &),
+                       const char *letters = "")
 {
     const Party &buyer = document.buyer;
     const bool isOther = buyer.endpointScheme != QLatin1String(scheme) || buyer.endpoint.isEmpty();
-    const bool isForm = buyer.endpoint.size() == digits && Integer::isDigits(buyer.endpoint);
-    return isOther || (isForm && isRight(buyer.endpoint)) ? Breaches() : Breaches{buyer.endpoint};
+    const bool hasLetters = buyer.endpoint.startsWith(QLatin1String(letters));
+    const QString id = hasLetters ? buyer.endpoint.mid(static_cast<int>(std::strlen(letters))) : buyer.endpoint;
+    const bool isForm = id.size() == digits && Integer::isDigits(id);
+    return isOther || (isForm && isRight(id)) ? Breaches() : Breaches{buyer.endpoint};
 }
 
 Breaches wrongGln(const Party &party)
@@ -307,7 +312,7 @@ constexpr Rule table[] = {
     {"PEPPOL-COMMON-R040", error, Rule::peppol, "BT-34", "settings.finvoice/senderId", [](D d) { return wrongGln(d.seller); }, "GLN-tunnuksen tarkiste on väärä: %1", "the check digit of the GLN is wrong: %1"},
     {"PEPPOL-COMMON-R040", error, Rule::peppol, "BT-49", "customer.einvoiceAddress", [](D d) { return wrongGln(d.buyer); }, "GLN-tunnuksen tarkiste on väärä: %1", "the check digit of the GLN is wrong: %1"},
     {"PEPPOL-COMMON-R041", error, Rule::peppol, "BT-49", "customer.einvoiceAddress", [](D d) { return wrongNational(d, "0192", 9, isNorwegian); }, "norjalainen tunnus ei ole oikein: %1", "the Norwegian number is not right: %1"},
-    {"PEPPOL-COMMON-R042", error, Rule::peppol, "BT-49", "customer.einvoiceAddress", [](D d) { return wrongNational(d, "0184", 8, isDanish); }, "tanskalainen tunnus ei ole oikein: %1", "the Danish number is not right: %1"},
+    {"PEPPOL-COMMON-R042", error, Rule::peppol, "BT-49", "customer.einvoiceAddress", [](D d) { return wrongNational(d, "0184", 8, isDanish, "DK"); }, "tanskalainen tunnus ei ole oikein: %1", "the Danish number is not right: %1"},
     {"PEPPOL-COMMON-R043", error, Rule::peppol, "BT-49", "customer.einvoiceAddress", [](D d) { return wrongNational(d, "0208", 10, isBelgian); }, "belgialainen tunnus ei ole oikein: %1", "the Belgian number is not right: %1"},
     {"PEPPOL-COMMON-R049", error, Rule::peppol, "BT-49", "customer.einvoiceAddress", [](D d) { return wrongNational(d, "0007", 10, isSwedish); }, "ruotsalainen tunnus ei ole oikein: %1", "the Swedish number is not right: %1"},
     {"FV-05", error, Rule::finvoice, "BT-84", "account.iban", [](D d) { return when(d.accounts.isEmpty()); }, "pankkitili puuttuu", "there is no bank account"},
