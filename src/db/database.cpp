@@ -53,13 +53,6 @@ bool Database::fail(const QString &message)
     return false;
 }
 
-Query *Database::query()
-{
-    QSqlQuery statement(connection(true));
-    statement.setForwardOnly(true);
-    return new Query(statement, this);
-}
-
 bool Database::readCreationScript(QStringList &statements)
 {
     initSqlResource();
@@ -138,7 +131,7 @@ bool Database::isAddedColumn(const QString &sql) const
 
 KeyTable Database::keys() const { return KeyTable(connection(false)); }
 
-DatabaseCheck Database::check() const { return DatabaseCheck(connection(false), isSQLite()); }
+DatabaseCheck Database::check() const { return DatabaseCheck(connection(false), cursor(), isSQLite()); }
 
 bool Database::optimize(QStringList &added)
 {

@@ -7,6 +7,7 @@
 
 #include <memory>
 
+class Cursor;
 class DatabaseCheck;
 class JournalStore;
 class KeyTable;
@@ -93,7 +94,7 @@ public:
     QString lastError() const;
 
     /** @return a new statement on this connection, owned by the caller */
-    virtual Query *query();
+    virtual Query *query() = 0;
     /** Whether one answer may be read while another one of the connection stands open. */
     bool readsTogether() const { return isSQLite(); }
 
@@ -117,6 +118,8 @@ protected:
     /** Sets the text of lastError() and returns false. */
     bool fail(const QString &message);
 
+    /** A new one on this connection, which is opened when it is closed. */
+    virtual std::unique_ptr<Cursor> cursor() const = 0;
     /** The variant of the statements that the backends do not share. */
     virtual bool isSQLite() const = 0;
     virtual QString creationScript() const = 0;

@@ -1,6 +1,7 @@
 #include "databasecheck.h"
 
 #include "bankaccount.h"
+#include "cursor.h"
 #include "customer.h"
 #include "database.h"
 #include "invoice.h"
@@ -9,12 +10,8 @@
 #include "printscript.h"
 #include "product.h"
 #include "settings.h"
-#include "sqltext.h"
 #include "tablecolumns.h"
 
-#include <QSqlDriver>
-#include <QSqlError>
-#include <QSqlQuery>
 #include <QSqlRecord>
 
 #include <algorithm>
@@ -73,13 +70,21 @@ template <class Record> QPair<const char *, const char *> expectedColumns()
 
 } // namespace
 
-bool DatabaseCheck::execute(QSqlQuery &query, const QString &sql)
+DatabaseCheck::DatabaseCheck(const QSqlDatabase &connection, std::unique_ptr<Cursor> cursor, bool sqlite)
+    : m_connection(connection), m_cursor(std::move(cursor)), m_isSQLite(sqlite)
 {
-    query.setForwardOnly(true);
-    if (query.exec(sql))
-        return true;
-    m_lastError = query.lastError().text().trimmed();
-    return false;
+}
+
+template <class Take> bool DatabaseCheck::readAll(const QString &sql, Take take)
+{
+    bool isRead = m_cursor->execute(sql, {});
+    while (isRead && m_cursor->next())
+        take(*m_cursor);
+    isRead = isRead && !m_cursor->hasError();
+    if (!isRead)
+        m_lastError = m_cursor->lastError();
+    m_cursor->finish();
+    return isRead;
 }
 
 void DatabaseCheck::add(const char *check, const char *table, int id, const QString &message)
@@ -101,14 +106,10 @@ bool DatabaseCheck::checkIntegrity()
 {
     if (!m_isSQLite)
         return true;
-    QSqlQuery query(m_connection);
-    if (!execute(query, QStringLiteral("PRAGMA integrity_check")))
-        return false;
-    while (query.next()) {
-        if (query.value(0).toString() != QLatin1String("ok"))
-            add("integrity", "", -1, query.value(0).toString());
-    }
-    return true;
+    return readAll(QStringLiteral("PRAGMA integrity_check"), [this](const Cursor &row) {
+        if (row.text(0) != QLatin1String("ok"))
+            add("integrity", "", -1, row.text(0));
+    });
 }
 
 bool DatabaseCheck::checkSchema()
@@ -126,14 +127,14 @@ bool DatabaseCheck::checkSchema()
                 add("columns", table, -1, tr("Sarake %1 puuttuu").arg(column));
         }
     }
-    QSqlQuery query(m_connection);
-    if (!execute(query, QStringLiteral("SELECT version FROM settings")))
-        return false;
     int rows = 0;
-    for (; query.next(); ++rows) {
-        if (query.value(0).toInt() != Database::schemaVersion)
-            add("schemaVersion", "settings", -1, tr("Tietokannan versio on %1").arg(query.value(0).toInt()));
-    }
+    const bool isRead = readAll(QStringLiteral("SELECT version FROM settings"), [&](const Cursor &row) {
+        ++rows;
+        if (row.integer(0) != Database::schemaVersion)
+            add("schemaVersion", "settings", -1, tr("Tietokannan versio on %1").arg(row.integer(0)));
+    });
+    if (!isRead)
+        return false;
     if (rows != 1)
         add("schemaVersion", "settings", -1, tr("Asetusrivejä on %1, pitäisi olla yksi").arg(rows));
     return true;
@@ -142,11 +143,11 @@ bool DatabaseCheck::checkSchema()
 bool DatabaseCheck::checkLinks()
 {
     for (const LinkCheck &link : linkChecks) {
-        QSqlQuery query(m_connection);
-        if (!execute(query, QLatin1String(link.sql)))
+        const bool isRead = readAll(QLatin1String(link.sql), [&](const Cursor &row) {
+            add(link.check, link.table, row.integer(0), tr(link.message).arg(row.integer(1)));
+        });
+        if (!isRead)
             return false;
-        while (query.next())
-            add(link.check, link.table, query.value(0).toInt(), tr(link.message).arg(query.value(1).toInt()));
     }
     return true;
 }
@@ -154,56 +155,47 @@ bool DatabaseCheck::checkLinks()
 bool DatabaseCheck::checkReferenceNumbers()
 {
     for (const char *table : {"invoice", "customer"}) {
-        QSqlQuery query(m_connection);
-        if (!execute(query,
-                     QStringLiteral("SELECT id, reference_number FROM %1 WHERE reference_number <> '' ORDER BY id")
-                         .arg(QLatin1String(table))))
-            return false;
-        while (query.next()) {
-            const QString reference = query.value(1).toString();
+        const QString sql = QStringLiteral("SELECT id, reference_number FROM %1 WHERE reference_number <> '' ORDER BY "
+                                           "id")
+                                .arg(QLatin1String(table));
+        const bool isRead = readAll(sql, [&](const Cursor &row) {
+            const QString reference = row.text(1);
             if (!isRightReference(reference))
-                add("referenceNumber", table, query.value(0).toInt(), tr("Virheellinen viitenumero %1").arg(reference));
-        }
+                add("referenceNumber", table, row.integer(0), tr("Virheellinen viitenumero %1").arg(reference));
+        });
+        if (!isRead)
+            return false;
     }
     return true;
 }
 
 bool DatabaseCheck::checkNumbers()
 {
-    QSqlQuery query(m_connection);
-    if (!execute(query, QStringLiteral("SELECT number, min(id) FROM invoice WHERE number > 0 GROUP BY number ORDER BY "
-                                       "number")))
-        return false;
+    const QString sql =
+        QStringLiteral("SELECT number, min(id) FROM invoice WHERE number > 0 GROUP BY number ORDER BY number");
     int previous = -1;
-    while (query.next()) {
-        const int number = query.value(0).toInt();
+    return readAll(sql, [&](const Cursor &row) {
+        const int number = row.integer(0);
         if (previous >= 0 && number > previous + 1) {
             const QString gap = number == previous + 2
                                     ? tr("Laskunumero %1 puuttuu").arg(previous + 1)
                                     : tr("Laskunumerot %1-%2 puuttuvat").arg(previous + 1).arg(number - 1);
-            add("numberGap", "invoice", query.value(1).toInt(), gap);
+            add("numberGap", "invoice", row.integer(1), gap);
         }
         previous = number;
-    }
-    return true;
+    });
 }
 
 bool DatabaseCheck::readSums(QHash<int, Sums> &sums)
 {
-    QSqlQuery items(m_connection);
-    if (!execute(items, QStringLiteral("SELECT %1 FROM invoice_item").arg(selectedColumns<InvoiceItem>())))
-        return false;
     InvoiceItem item;
-    while (items.next()) {
-        TableColumns<InvoiceItem>::read(items, 0, item);
-        sums[item.invoiceId].total += item.totalAmountVatIncluded();
-    }
-    QSqlQuery payments(m_connection);
-    if (!execute(payments, QStringLiteral("SELECT invoice_id, sum(amount) FROM payment GROUP BY invoice_id")))
-        return false;
-    while (payments.next())
-        sums[payments.value(0).toInt()].paid = payments.value(1).toLongLong();
-    return true;
+    return readAll(QStringLiteral("SELECT %1 FROM invoice_item").arg(selectedColumns<InvoiceItem>()),
+                   [&](const Cursor &row) {
+                       TableColumns<InvoiceItem>::read(row, 0, item);
+                       sums[item.invoiceId].total += item.totalAmountVatIncluded();
+                   }) &&
+           readAll(QStringLiteral("SELECT invoice_id, sum(amount) FROM payment GROUP BY invoice_id"),
+                   [&](const Cursor &row) { sums[row.integer(0)].paid = row.bigInteger(1); });
 }
 
 bool DatabaseCheck::checkTotals()
@@ -211,15 +203,13 @@ bool DatabaseCheck::checkTotals()
     QHash<int, Sums> sums;
     if (!readSums(sums))
         return false;
-    QSqlQuery query(m_connection);
-    if (!execute(query, QStringLiteral("SELECT id, number, total_amount, balance FROM invoice ORDER BY number, id")))
-        return false;
-    while (query.next()) {
-        const int id = query.value(0).toInt();
-        const int number = query.value(1).toInt();
+    const QString sql = QStringLiteral("SELECT id, number, total_amount, balance FROM invoice ORDER BY number, id");
+    return readAll(sql, [&](const Cursor &row) {
+        const int id = row.integer(0);
+        const int number = row.integer(1);
         const Sums right = sums.value(id);
-        const long long total = query.value(2).toLongLong();
-        const long long balance = query.value(3).toLongLong();
+        const long long total = row.bigInteger(2);
+        const long long balance = row.bigInteger(3);
         const QString message = tr("Laskun %1 %2 on %3, pitäisi olla %4").arg(number);
         if (total != right.total)
             add("invoiceTotal", "invoice", id, message.arg(tr("summa"), cents(total), cents(right.total)));
@@ -228,18 +218,16 @@ bool DatabaseCheck::checkTotals()
                 message.arg(tr("saldo"), cents(balance), cents(right.total - right.paid)));
         if (total != right.total || balance != right.total - right.paid)
             m_wrongInvoices.insert(id, right);
-    }
-    return true;
+    });
 }
 
 bool DatabaseCheck::repairTotals()
 {
-    QSqlQuery query(m_connection);
     const QString sql = QStringLiteral("UPDATE invoice SET total_amount = ?, balance = ? WHERE id = ?");
     for (auto it = m_wrongInvoices.cbegin(); it != m_wrongInvoices.cend(); ++it) {
         const QVariantList values = {it.value().total, it.value().total - it.value().paid, it.key()};
-        if (!query.exec(SqlText::filled(*m_connection.driver(), sql, values))) {
-            m_lastError = query.lastError().text().trimmed();
+        if (!m_cursor->execute(sql, values)) {
+            m_lastError = m_cursor->lastError();
             return false;
         }
     }

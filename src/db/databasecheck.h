@@ -7,7 +7,9 @@
 #include <QString>
 #include <QVector>
 
-class QSqlQuery;
+#include <memory>
+
+class Cursor;
 
 /** Something in the database that is not as it should be. */
 struct Finding {
@@ -27,8 +29,8 @@ struct Finding {
 class DatabaseCheck {
     Q_DECLARE_TR_FUNCTIONS(DatabaseCheck)
 public:
-    /** @param connection  open; shared with the database that it is of */
-    DatabaseCheck(const QSqlDatabase &connection, bool sqlite) : m_connection(connection), m_isSQLite(sqlite) {}
+    /** @param connection  open; shared with the database that it is of. @param cursor  on the same connection */
+    DatabaseCheck(const QSqlDatabase &connection, std::unique_ptr<Cursor> cursor, bool sqlite);
 
     /** @return false, with the reason in lastError(), when a statement fails; the findings so far are kept */
     [[nodiscard]] bool run();
@@ -48,7 +50,8 @@ private:
         long long paid = 0;  ///< cents
     };
 
-    bool execute(QSqlQuery &query, const QString &sql); ///< @return false, with the text kept, on failure
+    /** Lets a function take each row. @return false, with the text kept, on failure */
+    template <class Take> bool readAll(const QString &sql, Take take);
     void add(const char *check, const char *table, int id, const QString &message); ///< @param id  -1 for none
     /** One check each. @return false only when a statement fails: findings are no failure */
     bool checkIntegrity();
@@ -60,6 +63,7 @@ private:
     bool readSums(QHash<int, Sums> &sums); ///< of every invoice, by id, in one pass
 
     QSqlDatabase m_connection;        ///< open
+    std::unique_ptr<Cursor> m_cursor; ///< for all statements
     bool m_isSQLite;                  ///< integrity and its statements are SQLite's own
     QVector<Finding> m_findings;      ///< in the order of the checks
     QHash<int, Sums> m_wrongInvoices; ///< by id, with the right figures

@@ -1,6 +1,7 @@
 #include "postgresqldatabase.h"
 
 #include "journaltable.h"
+#include "postgresqlcursor.h"
 #include "postgresqlquery.h"
 
 #include <QLoggingCategory>
@@ -187,12 +188,12 @@ bool PostgreSQLDatabase::beginReading()
            fail(query.lastError().text());
 }
 
-Query *PostgreSQLDatabase::query()
+std::unique_ptr<Cursor> PostgreSQLDatabase::cursor() const
 {
-    QSqlQuery statement(connection(true));
-    statement.setForwardOnly(true);
-    return new PostgreSQLQuery(statement, m_isPooled, this);
+    return std::make_unique<PostgreSQLCursor>(QSqlQuery(connection(true)), m_isPooled);
 }
+
+Query *PostgreSQLDatabase::query() { return new PostgreSQLQuery(cursor(), this); }
 
 bool PostgreSQLDatabase::isLockError(const QString &reason) const
 {

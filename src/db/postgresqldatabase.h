@@ -26,6 +26,7 @@ public:
 
 protected:
     /** See Database. */
+    std::unique_ptr<Cursor> cursor() const override;
     bool isSQLite() const override { return false; }
     QString creationScript() const override { return QStringLiteral(":/sql/postgresql.sql"); }
 

@@ -1,7 +1,5 @@
 #include "postgresqlquery.h"
 
-#include <QVariant>
-
 namespace {
 
 QString sequenceName(const char *table) { return QLatin1String(table) + QLatin1String("_id_seq"); }
@@ -18,14 +16,8 @@ int PostgreSQLQuery::insertedId(const char *table) { return sequenceValue(sequen
 int PostgreSQLQuery::sequenceValue(const QString &sequenceName)
 {
     const bool found =
-        m_query.exec(QLatin1String("SELECT currval('") + sequenceName + QLatin1String("')")) && m_query.next();
-    return found ? m_query.value(0).toInt() : 0;
-}
-
-QString PostgreSQLQuery::refusal(const QVariant &value) const
-{
-    const bool hasNul = value.type() == QVariant::String && value.toString().contains(QChar(QChar::Null));
-    return hasNul ? tr("PostgreSQL ei tallenna tekstiä, jossa on NUL-merkki") : QString();
+        m_cursor->execute(QLatin1String("SELECT currval('") + sequenceName + QLatin1String("')"), {}) && next();
+    return found ? m_cursor->integer(0) : 0;
 }
 
 QString PostgreSQLQuery::containsPattern(const QString &text) const

@@ -8,11 +8,7 @@
 #include "printscript.h"
 #include "product.h"
 #include "settings.h"
-#include "sqltext.h"
 #include "tablecolumns.h"
-
-#include <QSqlDriver>
-#include <QSqlError>
 
 namespace {
 
@@ -31,9 +27,6 @@ QString assignments(const char *columns)
     return QString::fromLatin1(columns).replace(QLatin1String(", "), QLatin1String("=?, ")) + QLatin1String("=?");
 }
 
-/** A command that is repeated line after line uses about ten. */
-constexpr int maxKeptStatements = 40;
-
 /** The columns of every fetch, joined once. */
 template <class Record> const QString &allColumns()
 {
@@ -49,67 +42,27 @@ template <class Record> QString updateStatement()
 
 } // namespace
 
-Query::Query(const QSqlQuery &statement, QObject *parent) : QObject(parent), m_query(statement) {}
+Query::Query(std::unique_ptr<Cursor> cursor, QObject *parent) : QObject(parent), m_cursor(std::move(cursor)) {}
 
-QString Query::lastError() const { return m_refusal.isEmpty() ? m_query.lastError().text().trimmed() : m_refusal; }
+QString Query::lastError() const { return m_cursor->lastError(); }
 
-bool Query::hasReadError() const { return m_query.lastError().isValid(); }
+bool Query::hasReadError() const { return m_cursor->hasError(); }
 
-bool Query::execute(const QString &sql, const QVariantList &values)
-{
-    m_refusal.clear();
-    for (const QVariant &value : values) {
-        m_refusal = refusal(value);
-        if (!m_refusal.isEmpty())
-            return false;
-    }
-    if (!preparesStatements()) {
-        m_query.finish();
-        m_prepareFailed = false;
-        return m_query.exec(SqlText::filled(*m_query.driver(), sql, values));
-    }
-    m_prepareFailed = !prepare(sql);
-    if (m_prepareFailed)
-        return false;
-    for (int i = 0; i < values.size(); ++i)
-        m_query.bindValue(i, values.at(i));
-    if (m_query.exec())
-        return true;
-    m_statements.remove(sql);
-    return false;
-}
-
-bool Query::prepare(const QString &sql)
-{
-    m_query.finish(); // what was not read of the statement before must not keep its table locked
-    const auto kept = m_statements.constFind(sql);
-    if (kept != m_statements.constEnd()) {
-        m_query = *kept;
-        return true;
-    }
-    if (!m_query.prepare(sql))
-        return false;
-    if (keepsStatements()) {
-        if (m_statements.size() == maxKeptStatements) // texts that vary without end, with a search's criteria
-            m_statements.clear();
-        m_statements.insert(sql, m_query);
-    }
-    return true;
-}
+bool Query::execute(const QString &sql, const QVariantList &values) { return m_cursor->execute(sql, values); }
 
 bool Query::isConnected()
 {
-    const bool connected = m_query.exec(QStringLiteral("SELECT 1"));
-    m_query.finish();
+    const bool connected = execute(QStringLiteral("SELECT 1"));
+    finish();
     return connected;
 }
 
 int Query::firstInteger(const QString &sql, const QVariantList &values)
 {
     if (!execute(sql, values))
-        return m_prepareFailed ? 0 : -1;
-    const int value = m_query.next() ? m_query.value(0).toInt() : 0;
-    m_query.finish();
+        return m_cursor->wasPrepared() ? -1 : 0;
+    const int value = next() ? m_cursor->integer(0) : 0;
+    finish();
     return value;
 }
 
@@ -168,31 +121,38 @@ bool Query::fetchSettings()
         QStringLiteral("SELECT %1 FROM settings LIMIT 1").arg(QLatin1String(TableColumns<Settings>::columns)));
 }
 
-void Query::bankAccount(BankAccount *record) const { TableColumns<BankAccount>::read(m_query, 0, *record); }
-void Query::customer(Customer *record) const { TableColumns<Customer>::read(m_query, 0, *record); }
-void Query::product(Product *record) const { TableColumns<Product>::read(m_query, 0, *record); }
-void Query::invoiceDetails(Invoice *record) const { TableColumns<Invoice>::read(m_query, 0, *record); }
-void Query::invoiceItem(InvoiceItem *record) const { TableColumns<InvoiceItem>::read(m_query, 0, *record); }
-void Query::payment(Payment *record) const { TableColumns<Payment>::read(m_query, 0, *record); }
-void Query::printScriptDetails(PrintScript *record) const { TableColumns<PrintScript>::read(m_query, 0, *record); }
-void Query::settings(Settings *record) const { TableColumns<Settings>::read(m_query, 0, *record); }
+void Query::bankAccount(BankAccount *record) const { TableColumns<BankAccount>::read(*m_cursor, 0, *record); }
+void Query::customer(Customer *record) const { TableColumns<Customer>::read(*m_cursor, 0, *record); }
+void Query::product(Product *record) const { TableColumns<Product>::read(*m_cursor, 0, *record); }
+void Query::invoiceDetails(Invoice *record) const { TableColumns<Invoice>::read(*m_cursor, 0, *record); }
+void Query::invoiceItem(InvoiceItem *record) const { TableColumns<InvoiceItem>::read(*m_cursor, 0, *record); }
+void Query::payment(Payment *record) const { TableColumns<Payment>::read(*m_cursor, 0, *record); }
+void Query::printScriptDetails(PrintScript *record) const { TableColumns<PrintScript>::read(*m_cursor, 0, *record); }
+void Query::settings(Settings *record) const { TableColumns<Settings>::read(*m_cursor, 0, *record); }
 
 void Query::printScriptSummary(PrintScript *record) const
 {
-    record->id = m_query.value(0).toInt();
-    record->type = m_query.value(1).toString();
-    record->name = m_query.value(2).toString();
+    record->id = m_cursor->integer(0);
+    record->type = m_cursor->text(1);
+    record->name = m_cursor->text(2);
+}
+
+template <class Record> const QString &Query::insertStatement()
+{
+    const char *table = TableColumns<Record>::table;
+    const char *columns = TableColumns<Record>::columns;
+    QString &sql = m_insertStatements[table];
+    if (sql.isEmpty())
+        sql = QStringLiteral("INSERT INTO %1 (id, %2) VALUES (%3, %4)")
+                  .arg(QLatin1String(table), QLatin1String(columns), newIdExpression(table), marks(columns));
+    return sql;
 }
 
 template <class Record> bool Query::insert(Record *record)
 {
-    const char *table = TableColumns<Record>::table;
-    const char *columns = TableColumns<Record>::columns;
-    const QString sql = QStringLiteral("INSERT INTO %1 (id, %2) VALUES (%3, %4)")
-                            .arg(QLatin1String(table), QLatin1String(columns), newIdExpression(table), marks(columns));
-    if (!execute(sql, TableColumns<Record>::values(*record)))
+    if (!execute(insertStatement<Record>(), TableColumns<Record>::values(*record)))
         return false;
-    const int id = insertedId(table);
+    const int id = insertedId(TableColumns<Record>::table);
     if (id <= 0)
         return false;
     record->id = id;
@@ -209,7 +169,7 @@ template <class Record> bool Query::save(Record *record) { return record->id < 0
 
 QString Query::newIdExpression(const char *) const { return QStringLiteral("NULL"); }
 
-int Query::insertedId(const char *) { return m_query.lastInsertId().toInt(); }
+int Query::insertedId(const char *) { return m_cursor->insertedId(); }
 
 bool Query::saveBankAccount(BankAccount *record) { return save(record); }
 bool Query::saveCustomer(Customer *record) { return save(record); }
@@ -224,7 +184,7 @@ bool Query::saveSettings(Settings *record)
     const QVariantList values = TableColumns<Settings>::values(*record);
     if (!execute(updateStatement<Settings>(), values))
         return false;
-    if (m_query.numRowsAffected() != 0)
+    if (m_cursor->affectedRows() != 0)
         return true;
     const char *columns = TableColumns<Settings>::columns;
     return execute(QStringLiteral("INSERT INTO settings (version, %1) VALUES (10, %2)")
@@ -285,8 +245,8 @@ bool Query::fetchInvoiceReferences()
 
 void Query::invoiceReference(Invoice *record) const
 {
-    record->id = m_query.value(0).toInt();
-    record->referenceNumber = m_query.value(1).toString();
+    record->id = m_cursor->integer(0);
+    record->referenceNumber = m_cursor->text(1);
 }
 
 int Query::maxInvoiceNumber() { return firstInteger(QStringLiteral("SELECT max(number) FROM invoice")); }

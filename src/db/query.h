@@ -1,13 +1,15 @@
 #ifndef QUERY_H
 #define QUERY_H
 
+#include "cursor.h"
 #include "invoicecriteria.h"
 
 #include <QDate>
 #include <QHash>
 #include <QObject>
-#include <QSqlQuery>
 #include <QString>
+
+#include <memory>
 
 class BankAccount;
 class Customer;
@@ -21,8 +23,8 @@ class Product;
 class Settings;
 
 /**
- * Every statement of the system, on one forward-only SQL statement object. A fetch prepares and executes; the rows are
- * then stepped with next() (nextInvoice() after an invoice search) and read with the reader that belongs to the fetch.
+ * Every statement of the system, on a cursor of its own. A fetch prepares and executes; the rows are then stepped
+ * with next() (nextInvoice() after an invoice search) and read with the reader that belongs to the fetch.
  * Operations return false on failure, with the text in lastError(); records are then unchanged.
  *
  * A fetch whose rows are not read to the end keeps the table locked for other programs' writes: call finish().
@@ -31,13 +33,13 @@ class Query : public QObject {
     Q_OBJECT
 public:
     /**
-     * @param statement  forward-only, of an open connection
-     * @param parent     owns this; null leaves it to the caller
+     * @param cursor  on an open connection; null for one that only makes the texts of statements
+     * @param parent  owns this; null leaves it to the caller
      */
-    Query(const QSqlQuery &statement, QObject *parent);
+    Query(std::unique_ptr<Cursor> cursor, QObject *parent);
 
-    QString lastError() const;             ///< of the last operation; empty when it went well
-    bool next() { return m_query.next(); } ///< false at the end, and on a failure, see hasReadError()
+    QString lastError() const;               ///< of the last operation; empty when it went well
+    bool next() { return m_cursor->next(); } ///< false at the end, and on a failure, see hasReadError()
     /**
      * Steps through all rows of a fetch: the one loop over them.
      * @param take  called on each row
@@ -56,8 +58,7 @@ public:
             take();
         return !hasReadError();
     }
-    bool last() { return m_query.last(); }
-    void finish() { m_query.finish(); } ///< releases what a fetch that was not read to its end holds
+    void finish() { m_cursor->finish(); } ///< releases what a fetch that was not read to its end holds
     /** Whether next() ended the rows because of a failure, which lastError() tells, and not at their end. */
     bool hasReadError() const;
     /** Asks the database: a server may have gone. */
@@ -194,29 +195,23 @@ protected:
     // What a backend does differently.
     virtual QString newIdExpression(const char *table) const;
     virtual int insertedId(const char *table);
-    /** @return why the backend cannot store the value; empty when it can */
-    virtual QString refusal(const QVariant &) const { return QString(); }
     virtual QString likeOperator() const { return QStringLiteral("LIKE"); }
     /** A pattern that finds the text anywhere, letter case aside also outside ASCII, for containsOperator(). */
     virtual QString containsPattern(const QString &text) const;
     virtual QString containsOperator() const { return QStringLiteral("GLOB"); }
     virtual QString escapeClause() const { return QStringLiteral(" ESCAPE '\\'"); }
-    /** Whether prepared statements are kept for the next time: most of a small statement's time is its preparation. */
-    virtual bool keepsStatements() const { return true; }
-    /** Whether statements are prepared at all, or sent as whole texts. */
-    virtual bool preparesStatements() const { return true; }
 
-    QSqlQuery m_query; ///< the statement of the last operation
+    const std::unique_ptr<Cursor> m_cursor; ///< on the statement of the last operation
 
 private:
     /** Each finishes the statement before. @return false with the reason in lastError() */
     bool execute(const QString &sql, const QVariantList &values = {});
-    bool prepare(const QString &sql); ///< takes a kept statement of the same text when there is one
     /** 0 without a row or when the statement cannot be prepared, -1 when it fails. */
     int firstInteger(const QString &sql, const QVariantList &values = {});
     /** Of the table of TableColumns<Record>; `order`, `condition` and `rest` are SQL. */
     template <class Record> bool fetchAll(const char *order);
     template <class Record> bool fetchWhere(const char *condition, int value, const char *rest = "");
+    template <class Record> const QString &insertStatement();
     template <class Record> bool insert(Record *record); ///< sets the id
     template <class Record> bool update(Record *record); ///< all columns; a row that is gone is no failure
     template <class Record> bool save(Record *record);   ///< by the sign of the id
@@ -238,13 +233,11 @@ private:
     void appendInvoiceRestriction(const InvoiceCriteria *c, QString &sql, QList<QVariant> &params,
                                   bool hasConditions) const;
 
-    QHash<QString, QSqlQuery> m_statements; ///< the kept ones by their text; m_query is one of them
-    bool m_prepareFailed = false;           ///< of the last statement: it did not come to its execution
-    QString m_refusal;                      ///< of a value of the last statement
-    InvoiceCriteria m_invoiceCriteria;      ///< of the last invoice search
-    QHash<int, int> m_paidAmounts;          ///< invoice id: payments up to the balance date, cents
-    int m_totalColumn = -1;                 ///< column of the total in the current invoice search
-    int m_invoiceBalanceMode = 0;           ///< see setInvoiceBalanceMode()
+    QHash<const char *, QString> m_insertStatements; ///< by the name of the table, made when first needed
+    InvoiceCriteria m_invoiceCriteria;               ///< of the last invoice search
+    QHash<int, int> m_paidAmounts;                   ///< invoice id: payments up to the balance date, cents
+    int m_totalColumn = -1;                          ///< column of the total in the current invoice search
+    int m_invoiceBalanceMode = 0;                    ///< see setInvoiceBalanceMode()
 };
 
 #endif

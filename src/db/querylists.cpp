@@ -259,27 +259,26 @@ bool Query::fetchInvoiceList(const InvoiceSelection &selection, bool withDetails
 
 void Query::invoiceListRow(Invoice *record, int *customerNumber, QString *customerName, bool withDetails) const
 {
-    record->id = integerValue(m_query, 0);
-    record->number = integerValue(m_query, 1);
-    record->type = integerValue(m_query, 2);
-    record->date = dateValue(m_query, 3);
-    record->dueDate = dateValue(m_query, 4);
-    record->customerId = integerValue(m_query, 5);
-    const QVariant number = m_query.value(6);
-    *customerNumber = number.isNull() ? -1 : number.toInt();
-    *customerName = m_query.value(7).toString();
-    record->referenceNumber = m_query.value(8).toString();
-    record->totalAmount = integerValue(m_query, 9);
-    record->balance = integerValue(m_query, 10);
+    record->id = m_cursor->integer(0);
+    record->number = m_cursor->integer(1);
+    record->type = m_cursor->integer(2);
+    record->date = m_cursor->date(3);
+    record->dueDate = m_cursor->date(4);
+    record->customerId = m_cursor->integer(5);
+    *customerNumber = m_cursor->isNull(6) ? -1 : m_cursor->integer(6);
+    *customerName = m_cursor->text(7);
+    record->referenceNumber = m_cursor->text(8);
+    record->totalAmount = m_cursor->integer(9);
+    record->balance = m_cursor->integer(10);
     if (!withDetails)
         return;
-    record->paymentTerms = m_query.value(11).toString();
-    record->interestOnArrears = integerValue(m_query, 12);
-    record->delivery = m_query.value(13).toString();
-    record->deliveryDate = dateValue(m_query, 14);
-    record->buyerRef = m_query.value(15).toString();
-    record->sellerRef = m_query.value(16).toString();
-    record->propertiesFromString(m_query.value(17).toString());
+    record->paymentTerms = m_cursor->text(11);
+    record->interestOnArrears = m_cursor->integer(12);
+    record->delivery = m_cursor->text(13);
+    record->deliveryDate = m_cursor->date(14);
+    record->buyerRef = m_cursor->text(15);
+    record->sellerRef = m_cursor->text(16);
+    record->propertiesFromString(m_cursor->text(17));
 }
 
 bool Query::fetchItemsOf(const QVector<int> &invoiceIds)
@@ -323,14 +322,13 @@ bool Query::fetchPaymentList(const PaymentCriteria &payments, const InvoiceSelec
 
 void Query::paymentListRow(Payment *record, int *invoiceNumber, QString *accountName) const
 {
-    record->id = m_query.value(0).toInt();
-    record->invoiceId = m_query.value(1).toInt();
-    record->date = dateValue(m_query, 2);
-    record->amount = m_query.value(3).toInt();
-    const QVariant account = m_query.value(4);
-    record->bankAccountId = account.isNull() ? -1 : account.toInt();
-    *invoiceNumber = m_query.value(5).toInt();
-    *accountName = m_query.value(6).toString();
+    record->id = m_cursor->integer(0);
+    record->invoiceId = m_cursor->integer(1);
+    record->date = m_cursor->date(2);
+    record->amount = m_cursor->integer(3);
+    record->bankAccountId = m_cursor->isNull(4) ? -1 : m_cursor->integer(4);
+    *invoiceNumber = m_cursor->integer(5);
+    *accountName = m_cursor->text(6);
 }
 
 bool Query::fetchOpenBalances()
@@ -341,9 +339,9 @@ bool Query::fetchOpenBalances()
 
 void Query::openBalance(int *customerId, int *count, long long *balance) const
 {
-    *customerId = m_query.value(0).toInt();
-    *count = m_query.value(1).toInt();
-    *balance = m_query.value(2).toLongLong();
+    *customerId = m_cursor->integer(0);
+    *count = m_cursor->integer(1);
+    *balance = m_cursor->bigInteger(2);
 }
 
 bool Query::fetchCompanyBalances(const QDate &today)
@@ -357,10 +355,10 @@ bool Query::fetchCompanyBalances(const QDate &today)
 
 void Query::companyBalances(int *openCount, long long *open, int *overdueCount, long long *overdue) const
 {
-    *openCount = m_query.value(0).toInt();
-    *open = m_query.value(1).toLongLong();
-    *overdueCount = m_query.value(2).toInt();
-    *overdue = m_query.value(3).toLongLong();
+    *openCount = m_cursor->integer(0);
+    *open = m_cursor->bigInteger(1);
+    *overdueCount = m_cursor->integer(2);
+    *overdue = m_cursor->bigInteger(3);
 }
 
 QString Query::containsPattern(const QString &text) const

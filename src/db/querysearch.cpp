@@ -240,7 +240,7 @@ bool Query::nextInvoice()
     if (!m_invoiceCriteria.balanceDate.isValid())
         return next();
     while (next()) {
-        const int balance = m_query.value(m_totalColumn).toInt() - m_paidAmounts.value(m_query.value(0).toInt());
+        const int balance = m_cursor->integer(m_totalColumn) - m_paidAmounts.value(m_cursor->integer(0));
         const bool isPaid = balance == 0;
         const int wanted = m_invoiceCriteria.paymentState;
         if ((wanted != InvoiceCriteria::paid || isPaid) && (wanted != InvoiceCriteria::open || !isPaid))
@@ -251,29 +251,29 @@ bool Query::nextInvoice()
 
 void Query::invoiceSummary(Invoice *record) const
 {
-    record->id = m_query.value(0).toInt();
-    record->customerId = m_query.value(1).toInt();
-    record->type = m_query.value(2).toInt();
-    record->number = m_query.value(3).toInt();
-    record->date = m_query.value(4).toDate();
-    record->dueDate = m_query.value(5).toDate();
-    record->deliveryDate = m_query.value(6).toDate();
-    record->referenceNumber = m_query.value(7).toString();
-    record->totalAmount = m_query.value(8).toInt();
-    record->balance = m_query.value(9).toInt();
+    record->id = m_cursor->integer(0);
+    record->customerId = m_cursor->integer(1);
+    record->type = m_cursor->integer(2);
+    record->number = m_cursor->integer(3);
+    record->date = m_cursor->date(4);
+    record->dueDate = m_cursor->date(5);
+    record->deliveryDate = m_cursor->date(6);
+    record->referenceNumber = m_cursor->text(7);
+    record->totalAmount = m_cursor->integer(8);
+    record->balance = m_cursor->integer(9);
     if (m_invoiceBalanceMode == 1 && m_invoiceCriteria.balanceDate.isValid())
         record->balance = record->totalAmount - m_paidAmounts.value(record->id);
 }
 
 void Query::invoiceAndPayment(Invoice *invoice, Payment *payment) const
 {
-    invoice->id = m_query.value(0).toInt();
-    invoice->customerId = m_query.value(1).toInt();
-    invoice->number = m_query.value(2).toInt();
-    invoice->date = m_query.value(3).toDate();
-    invoice->dueDate = m_query.value(4).toDate();
-    invoice->deliveryDate = m_query.value(5).toDate();
-    invoice->totalAmount = m_query.value(6).toInt();
-    invoice->balance = m_query.value(7).toInt();
-    TableColumns<Payment>::read(m_query, 8, *payment);
+    invoice->id = m_cursor->integer(0);
+    invoice->customerId = m_cursor->integer(1);
+    invoice->number = m_cursor->integer(2);
+    invoice->date = m_cursor->date(3);
+    invoice->dueDate = m_cursor->date(4);
+    invoice->deliveryDate = m_cursor->date(5);
+    invoice->totalAmount = m_cursor->integer(6);
+    invoice->balance = m_cursor->integer(7);
+    TableColumns<Payment>::read(*m_cursor, 8, *payment);
 }

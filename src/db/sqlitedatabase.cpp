@@ -1,6 +1,8 @@
 #include "sqlitedatabase.h"
 
 #include "journalfile.h"
+#include "query.h"
+#include "sqlitecursor.h"
 
 #include <QDateTime>
 #include <QFile>
@@ -63,6 +65,10 @@ bool SQLiteDatabase::beginWriting()
     QSqlQuery query(connection(false));
     return query.exec(QStringLiteral("BEGIN IMMEDIATE")) || fail(query.lastError().text());
 }
+
+std::unique_ptr<Cursor> SQLiteDatabase::cursor() const { return std::make_unique<SQLiteCursor>(connection(true)); }
+
+Query *SQLiteDatabase::query() { return new Query(cursor(), this); }
 
 long long SQLiteDatabase::foreignChanges()
 {

@@ -22,6 +22,7 @@ public:
     long long foreignChanges() override;                   ///< PRAGMA data_version
     bool backupTo(const QString &filename) override;       ///< with the permissions of the database's own file
     bool isLockError(const QString &reason) const override;
+    Query *query() override;
     std::unique_ptr<JournalStore> journal() const override; ///< see JournalFile
 
     /**
@@ -32,6 +33,7 @@ public:
 
 protected:
     /** See Database. */
+    std::unique_ptr<Cursor> cursor() const override;
     bool isSQLite() const override { return true; }
     QString creationScript() const override { return QStringLiteral(":/sql/sqlite.sql"); }
 

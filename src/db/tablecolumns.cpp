@@ -1,16 +1,15 @@
 #include "tablecolumns.h"
 
 #include "bankaccount.h"
+#include "cursor.h"
 #include "customer.h"
 #include "invoice.h"
 #include "invoiceitem.h"
-#include "isodate.h"
 #include "payment.h"
 #include "printscript.h"
 #include "product.h"
 #include "settings.h"
 
-#include <QSqlQuery>
 #include <QStringList>
 
 #include <utility>
@@ -23,17 +22,17 @@ QVariant text(const QString &value) { return value.isNull() ? QStringLiteral("")
 /** Walks the columns of the current row from left to right. */
 class RowReader {
 public:
-    RowReader(const QSqlQuery &row, int first) : m_row(row), m_column(first) {}
+    RowReader(const Cursor &row, int first) : m_row(row), m_column(first) {}
 
-    RowReader &operator>>(int &value) { return set(value, integerValue(m_row, m_column++)); }
-    RowReader &operator>>(long long &value) { return set(value, next().toLongLong()); }
+    RowReader &operator>>(int &value) { return set(value, m_row.integer(m_column++)); }
+    RowReader &operator>>(long long &value) { return set(value, m_row.bigInteger(m_column++)); }
     RowReader &operator>>(bool &value) { return set(value, next().toBool()); }
-    RowReader &operator>>(QString &value) { return set(value, next().toString()); }
-    RowReader &operator>>(QDate &value) { return set(value, dateValue(m_row, m_column++)); }
+    RowReader &operator>>(QString &value) { return set(value, m_row.text(m_column++)); }
+    RowReader &operator>>(QDate &value) { return set(value, m_row.date(m_column++)); }
     RowReader &operator>>(QByteArray &value) { return set(value, next().toByteArray()); }
     RowReader &operator>>(PropertyMap &value)
     {
-        value.propertiesFromString(next().toString());
+        value.propertiesFromString(m_row.text(m_column++));
         return *this;
     }
 
@@ -46,30 +45,11 @@ private:
         return *this;
     }
 
-    const QSqlQuery &m_row;
+    const Cursor &m_row;
     int m_column;
 };
 
 } // namespace
-
-QDate dateValue(const QSqlQuery &row, int column)
-{
-    const QVariant value = row.value(column);
-    if (value.userType() == QMetaType::QString) {
-        const QDate date = IsoDate::parse(*static_cast<const QString *>(value.constData()));
-        if (date.isValid())
-            return date;
-    }
-    return value.toDate(); // a date already, as some backends give it, or another form
-}
-
-int integerValue(const QSqlQuery &row, int column)
-{
-    const QVariant value = row.value(column);
-    if (value.userType() == QMetaType::LongLong)
-        return static_cast<int>(*static_cast<const qlonglong *>(value.constData()));
-    return value.toInt();
-}
 
 template <> const char *const TableColumns<BankAccount>::table = "bank_account";
 template <>
@@ -80,7 +60,7 @@ template <> QVariantList TableColumns<BankAccount>::values(const BankAccount &a)
     return {text(a.name), text(a.shortName), text(a.iban), text(a.bic), a.rowNumber, a.visible, a.deleted};
 }
 
-template <> void TableColumns<BankAccount>::read(const QSqlQuery &row, int first, BankAccount &a)
+template <> void TableColumns<BankAccount>::read(const Cursor &row, int first, BankAccount &a)
 {
     RowReader(row, first) >> a.id >> a.name >> a.shortName >> a.iban >> a.bic >> a.rowNumber >> a.visible >> a.deleted;
 }
@@ -109,7 +89,7 @@ template <> QVariantList TableColumns<Customer>::values(const Customer &c)
             c.deleted};
 }
 
-template <> void TableColumns<Customer>::read(const QSqlQuery &row, int first, Customer &c)
+template <> void TableColumns<Customer>::read(const Cursor &row, int first, Customer &c)
 {
     RowReader(row, first) >> c.id >> c.number >> c.name >> c.streetName >> c.postCode >> c.townName >> c.country >>
         c.contact >> c.vatNumber >> c.referenceNumber >> c.emailAddress >> c.phoneNumber >> c.paymentTerms >>
@@ -141,7 +121,7 @@ template <> QVariantList TableColumns<Invoice>::values(const Invoice &i)
             text(i.propertiesToString())};
 }
 
-template <> void TableColumns<Invoice>::read(const QSqlQuery &row, int first, Invoice &i)
+template <> void TableColumns<Invoice>::read(const Cursor &row, int first, Invoice &i)
 {
     RowReader(row, first) >> i.id >> i.customerId >> i.type >> i.number >> i.date >> i.paymentTerms >> i.delivery >>
         i.deliveryDate >> i.buyerRef >> i.sellerRef >> i.interestOnArrears >> i.dueDate >> i.referenceNumber >>
@@ -160,7 +140,7 @@ template <> QVariantList TableColumns<InvoiceItem>::values(const InvoiceItem &i)
             i.vatRate,   i.vatExcluded,         i.discount,          text(i.text), i.rowNumber};
 }
 
-template <> void TableColumns<InvoiceItem>::read(const QSqlQuery &row, int first, InvoiceItem &i)
+template <> void TableColumns<InvoiceItem>::read(const Cursor &row, int first, InvoiceItem &i)
 {
     RowReader(row, first) >> i.id >> i.invoiceId >> i.productNumber >> i.productName >> i.quantity >> i.unitCode >>
         i.amount >> i.vatRate >> i.vatExcluded >> i.discount >> i.text >> i.rowNumber;
@@ -174,7 +154,7 @@ template <> QVariantList TableColumns<Payment>::values(const Payment &p)
     return {p.invoiceId, p.date, p.bankAccountId < 0 ? QVariant(QVariant::Int) : QVariant(p.bankAccountId), p.amount};
 }
 
-template <> void TableColumns<Payment>::read(const QSqlQuery &row, int first, Payment &p)
+template <> void TableColumns<Payment>::read(const Cursor &row, int first, Payment &p)
 {
     RowReader reader(row, first);
     reader >> p.id >> p.invoiceId >> p.date;
@@ -192,7 +172,7 @@ template <> QVariantList TableColumns<PrintScript>::values(const PrintScript &s)
     return {text(s.type), text(s.name), text(s.sourceCode)};
 }
 
-template <> void TableColumns<PrintScript>::read(const QSqlQuery &row, int first, PrintScript &s)
+template <> void TableColumns<PrintScript>::read(const Cursor &row, int first, PrintScript &s)
 {
     RowReader(row, first) >> s.id >> s.type >> s.name >> s.sourceCode;
 }
@@ -206,7 +186,7 @@ template <> QVariantList TableColumns<Product>::values(const Product &p)
     return {text(p.number), text(p.name), text(p.unitCode), p.amount, p.vatRate, p.vatExcluded, text(p.category)};
 }
 
-template <> void TableColumns<Product>::read(const QSqlQuery &row, int first, Product &p)
+template <> void TableColumns<Product>::read(const Cursor &row, int first, Product &p)
 {
     int amount = 0; // 32 bits on reading, although 64 are written: all programs of this system read it so
     RowReader(row, first) >> p.id >> p.number >> p.name >> p.unitCode >> amount >> p.vatRate >> p.vatExcluded >>
@@ -232,7 +212,7 @@ template <> QVariantList TableColumns<Settings>::values(const Settings &s)
             text(s.propertiesToString())};
 }
 
-template <> void TableColumns<Settings>::read(const QSqlQuery &row, int first, Settings &s)
+template <> void TableColumns<Settings>::read(const Cursor &row, int first, Settings &s)
 {
     RowReader(row, first) >> s.sellerName >> s.sellerStreetName >> s.sellerPostCode >> s.sellerTownName >>
         s.sellerCountry >> s.sellerBusinessId >> s.sellerLogo >> static_cast<PropertyMap &>(s);

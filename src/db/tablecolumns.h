@@ -1,18 +1,17 @@
 #ifndef TABLECOLUMNS_H
 #define TABLECOLUMNS_H
 
-#include <QDate>
 #include <QString>
 #include <QVariantList>
 
 class BankAccount;
+class Cursor;
 class Customer;
 class Invoice;
 class InvoiceItem;
 class Payment;
 class PrintScript;
 class Product;
-class QSqlQuery;
 class Settings;
 
 /**
@@ -26,13 +25,8 @@ template <class Record> struct TableColumns {
     /** The values of `columns`, in order. */
     static QVariantList values(const Record &record);
     /** Reads the id and then `columns` (settings: `columns` only), from the given column of the current row on. */
-    static void read(const QSqlQuery &row, int first, Record &record);
+    static void read(const Cursor &row, int first, Record &record);
 };
-
-/** A date column as either backend gives it; invalid for none. */
-QDate dateValue(const QSqlQuery &row, int column);
-/** An integer column, 0 for none, without the general conversion where that is possible. */
-int integerValue(const QSqlQuery &row, int column);
 
 /** @return the column list with the id in front, each column with the prefix ("", "i.") */
 template <class Record> QString selectedColumns(const QString &prefix = QString());

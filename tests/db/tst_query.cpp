@@ -10,6 +10,7 @@
 #include "query.h"
 #include "testdatabase.h"
 
+#include <QSqlQuery>
 #include <QtTest>
 
 #include <functional>

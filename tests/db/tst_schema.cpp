@@ -9,6 +9,7 @@
 #include "sqlitedatabase.h"
 #include "testdatabase.h"
 
+#include <QSqlQuery>
 #include <QtTest>
 
 class SchemaTest : public QObject {

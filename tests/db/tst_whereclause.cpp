@@ -88,7 +88,7 @@ void WhereClauseTest::invoices()
 {
     QFETCH(InvoiceCriteria, criteria);
     QFETCH(QString, sql);
-    const Query query(QSqlQuery(), nullptr);
+    const Query query(nullptr, nullptr);
     QString built = QStringLiteral("X");
     QVariantList params{"first"};
     QCOMPARE(query.buildInvoiceWhereClause(&criteria, built, params, QStringLiteral("i."), QStringLiteral(" WHERE ")),
@@ -133,7 +133,7 @@ void WhereClauseTest::payments()
     invoices.balanceDate = balanceDate;
     QString sql;
     QVariantList params;
-    const bool added = Query(QSqlQuery(), nullptr)
+    const bool added = Query(nullptr, nullptr)
                            .buildPaymentWhereClause(&criteria, balanceDate.isValid() ? &invoices : nullptr, sql, params,
                                                     QStringLiteral("p."), QStringLiteral(" AND "));
     QTEST(sql, "sql");
@@ -147,7 +147,7 @@ void WhereClauseTest::textOperatorOfTheServer()
     criteria.text = QStringLiteral("a");
     QString sql;
     QVariantList params;
-    PostgreSQLQuery(QSqlQuery(), false, nullptr).buildInvoiceWhereClause(&criteria, sql, params, QString(), QString());
+    PostgreSQLQuery(nullptr, nullptr).buildInvoiceWhereClause(&criteria, sql, params, QString(), QString());
     QCOMPARE(sql, QStringLiteral("id IN (SELECT invoice_id FROM invoice_item WHERE text ILIKE ? ESCAPE E'\\\\')"));
 }
 
