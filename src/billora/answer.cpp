@@ -52,8 +52,8 @@ Answer::Answer(const AnswerOptions &options, Sink sink) : m_options(options), m_
 void Answer::chooseUsual(const RecordTable &table, bool whole)
 {
     const bool forPeople = m_options.form == OutputForm::text && !whole;
-    const QStringList columns = QString::fromLatin1(table.columns).split(QLatin1Char(','));
     if (forPeople) {
+        const QStringList columns = QString::fromLatin1(table.columns).split(QLatin1Char(','));
         for (const QString &column : columns)
             m_fields.append(table.find(column));
         return;

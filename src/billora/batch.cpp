@@ -1,5 +1,6 @@
 #include "batch.h"
 
+#include "calendar.h"
 #include "commandtable.h"
 #include "database.h"
 #include "inputline.h"
@@ -11,6 +12,13 @@
 #include <QCryptographicHash>
 
 #include <unistd.h>
+
+namespace {
+
+/** Answers are gathered up to this size. */
+constexpr int pieceSize = 65536;
+
+} // namespace
 
 Batch::Batch(Session &session, const Options &options, Write write)
     : m_session(session), m_runner(session), m_options(options), m_write(std::move(write))
@@ -29,7 +37,7 @@ bool Batch::insertNames(Arguments &arguments)
 
 bool Batch::runLine(const QByteArray &json, QByteArray &result)
 {
-    const ValueReader reader(m_session, QDate::currentDate());
+    const ValueReader reader(m_session, Calendar::today());
     JsonArguments::Line line;
     if (!JsonArguments::readLine(reader, json, line))
         return false;
@@ -61,6 +69,16 @@ bool Batch::runLine(const QByteArray &json, QByteArray &result)
     return true;
 }
 
+bool Batch::send(const QByteArray &line, bool isNextThere)
+{
+    m_gathered += line;
+    if (isNextThere && m_gathered.size() < pieceSize)
+        return true;
+    const bool isWritten = m_gathered.isEmpty() || m_write(m_gathered);
+    m_gathered.clear();
+    return isWritten;
+}
+
 bool Batch::writeFailure(int line)
 {
     QByteArray bytes;
@@ -71,7 +89,7 @@ bool Batch::writeFailure(int line)
     json.name("error");
     m_session.problem().write(json);
     json.endObject();
-    return m_write(bytes + '\n');
+    return send(bytes + '\n', false);
 }
 
 bool Batch::writeEnd(bool isCommitted, int lines, int failed, bool isReplayed)
@@ -88,7 +106,7 @@ bool Batch::writeEnd(bool isCommitted, int lines, int failed, bool isReplayed)
     if (isReplayed)
         json.member("replayed", true);
     json.endObject();
-    return m_write(bytes + '\n');
+    return send(bytes + '\n', false);
 }
 
 namespace {
@@ -113,7 +131,7 @@ int Batch::runEach()
         const bool done = runLine(line, result);
         if (!done)
             ++failed;
-        if (!(done ? m_write(success(count, result)) : writeFailure(count)))
+        if (!(done ? send(success(count, result), false) : writeFailure(count)))
             return 0; // nobody reads any more
     }
     writeEnd(!m_options.manners.isDryRun, count, failed);
@@ -174,9 +192,10 @@ int Batch::runTogether()
         isWhole = runLine(line, result);
         if (!isWhole)
             writeFailure(count);
-        else if (!m_write(success(count, result)))
+        else if (!send(success(count, result), input.hasLine() || next < lines.size()))
             isWhole = false; // who does not read the answers does not know that anything was done
     }
+    isWhole = isWhole && send(QByteArray(), false);
     if (isWhole && !digest.isEmpty() && !m_options.manners.isDryRun) {
         KeyTable keys = database.database()->keys();
         isWhole = keys.add(m_options.key, {digest, 0}) || database.failDatabase(keys.lastError());

@@ -36,6 +36,11 @@ private:
     bool writeFailure(int line);            ///< @param line  from 1; 0: the whole
     /** The last line of the answer. @return false when nobody reads any more */
     bool writeEnd(bool isCommitted, int lines, int failed, bool isReplayed = false);
+    /**
+     * Gathers answers while the next line is there already, and writes them else.
+     * @return false when nobody reads any more
+     */
+    bool send(const QByteArray &line, bool isNextThere);
     int runEach();     ///< @return 3 when a line failed
     int runTogether(); ///< one transaction: all lines or none, which also an unread answer means
 
@@ -43,6 +48,7 @@ private:
     Runner m_runner;           ///< of the same session
     Options m_options;         ///< as given
     Write m_write;             ///< see Write
+    QByteArray m_gathered;     ///< answers not written yet
     QHash<QString, int> m_ids; ///< by the names of `as`
 };
 

@@ -1,6 +1,7 @@
 #include "completer.h"
 
 #include "bankaccount.h"
+#include "calendar.h"
 #include "commandtable.h"
 #include "customer.h"
 #include "einvoicecodes.h"
@@ -80,7 +81,7 @@ void invoices(Session &session, const QString &word, bool onlyOpen, Found &found
 {
     Query *query = session.context().session.query();
     InvoiceSelection selection;
-    selection.today = QDate::currentDate();
+    selection.today = Calendar::today();
     selection.withBalance = onlyOpen;
     selection.descending = true;
     selection.limit = mostInvoices;

@@ -59,6 +59,8 @@ struct RecordTable {
     const Field *end() const { return fields + count; }
     /** @return null when there is none of the name */
     const Field *find(const QString &name) const;
+    /** The names of the fields, in their order, made once: they are looked up for each record. */
+    const QVector<QString> &names() const;
 };
 
 #endif

@@ -1,5 +1,6 @@
 #include "invoicereader.h"
 
+#include "customer.h"
 #include "database.h"
 #include "query.h"
 #include "registry.h"
@@ -129,4 +130,22 @@ bool InvoiceReader::readWhole(Task &task, int id, InvoiceRecord &record)
         record = found;
         return true;
     });
+}
+
+InvoiceRecord InvoiceReader::ofSaved(Task &task, const Invoice &invoice, const Customer &customer,
+                                     const QVector<InvoiceItem> &rows)
+{
+    InvoiceRecord record;
+    record.invoice = invoice;
+    record.today = task.reader.today();
+    record.customerNumber = customer.number;
+    record.customerName = customer.name;
+    for (const InvoiceItem &item : rows) {
+        RowRecord row;
+        row.item = item;
+        row.item.properties.clear(); // the invoice keeps them
+        record.rows.append(row);
+    }
+    addSums(record, task.session.registry().settings()->roundingMode());
+    return record;
 }

@@ -8,6 +8,7 @@
 
 #include <functional>
 
+class Customer;
 class Task;
 
 /** Reads invoices as the table of fields wants them. Failures are told. */
@@ -23,6 +24,8 @@ using Each = std::function<bool(const InvoiceRecord &)>;
 [[nodiscard]] bool read(Task &task, const InvoiceSelection &selection, bool withDetails, const Each &each);
 /** Reads the whole of one. */
 [[nodiscard]] bool readWhole(Task &task, int id, InvoiceRecord &record);
+/** What readWhole() would read of an invoice that was just made. @param customer  the invoice's */
+InvoiceRecord ofSaved(Task &task, const Invoice &invoice, const Customer &customer, const QVector<InvoiceItem> &rows);
 
 } // namespace InvoiceReader
 

@@ -1,5 +1,6 @@
 #include "mcpserver.h"
 
+#include "calendar.h"
 #include "commandtable.h"
 #include "description.h"
 #include "inputline.h"
@@ -155,7 +156,7 @@ QByteArray McpServer::callTool(const Json &message, bool &isWrong)
         return QByteArray();
     const Json *given = member(*params, "arguments");
     const QByteArray object = given && !given->IsNull() ? toJson(*given) : QByteArray("{}");
-    const ValueReader reader(m_session, QDate::currentDate());
+    const ValueReader reader(m_session, Calendar::today());
     Arguments arguments;
     Manners manners = m_options.manners;
     manners.agreesToAll = true; // what may be removed was decided when the server was started

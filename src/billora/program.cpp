@@ -1,5 +1,6 @@
 #include "program.h"
 
+#include "calendar.h"
 #include "commandtable.h"
 #include "companies.h"
 #include "completer.h"
@@ -67,7 +68,7 @@ bool Program::readForm(const Arguments &global)
 bool Program::readGlobals(const CommandLine &line)
 {
     const Arguments &global = line.global;
-    const ValueReader reader(m_session, QDate::currentDate());
+    const ValueReader reader(m_session, Calendar::today());
     for (const Option &option : CommandTable::globalOptions()) {
         const QString name = QLatin1String(option.name);
         bool isTrue = false;

@@ -18,8 +18,10 @@ bool RecordFields::apply(const ValueReader &reader, const RecordTable &table, co
         problem.message = text(TEXT("anna joko price tai priceWithVat, ei molempia"));
         return reader.fail(problem);
     }
-    for (const Field &field : table) {
-        const QString name = QLatin1String(field.name);
+    const QVector<QString> &names = table.names();
+    for (int i = 0; i < table.count; ++i) {
+        const Field &field = table.fields[i];
+        const QString &name = names.at(i);
         if (!field.set || !given.has(name))
             continue;
         const QString value = given.text(name);

@@ -187,7 +187,7 @@ bool References::customer(Task &task, const QString &option, const QString &word
     bool isNumber = false;
     const int number = Integer::parse(word, isNumber);
     if (Integer::isDigits(word) && isNumber) {
-        if (!readAll<Customer>(task, query->fetchCustomersByNumber(number), &Query::customer, found))
+        if (!task.context().session.findByNumber(number, found))
             return false;
         QVector<Candidate> fitting;
         for (int i = 0; i < found.size(); ++i) {
@@ -215,7 +215,6 @@ bool References::customer(Task &task, const QString &option, const QString &word
 
 bool References::product(Task &task, const QString &option, const QString &word, Product &record)
 {
-    Query *query = task.context().session.query();
     QVector<Product> found;
     int id = 0;
     const IdWord byId =
@@ -223,7 +222,7 @@ bool References::product(Task &task, const QString &option, const QString &word,
     if (byId == IdWord::wrong)
         return false;
     if (byId == IdWord::none) {
-        if (!readAll<Product>(task, query->fetchProductsByNumber(word), &Query::product, found))
+        if (!task.context().session.findByNumber(word, found))
             return false;
         if (found.size() == 1) {
             record = found.first();

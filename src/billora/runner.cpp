@@ -1,5 +1,6 @@
 #include "runner.h"
 
+#include "calendar.h"
 #include "commandtable.h"
 #include "database.h"
 #include "keytable.h"
@@ -73,7 +74,7 @@ int Runner::lastSaved(const Command &command) const
 
 bool Runner::check(const Command &command, const Arguments &arguments, const Manners &manners)
 {
-    const ValueReader reader(m_session, QDate::currentDate());
+    const ValueReader reader(m_session, Calendar::today());
     const QVector<const Option *> options = CommandTable::options(command);
     for (const Option *option : options) {
         if (option->type != ValueType::flag)
@@ -236,7 +237,7 @@ bool Runner::runForProgram(const Command &command, Arguments arguments, const Ma
     if (!run(command, arguments, answer, own, key, exitCode))
         return false;
     answer.flush();
-    result.replace('\n', QByteArray());
+    result.resize(static_cast<int>(std::remove(result.begin(), result.end(), '\n') - result.begin()));
     if (result.isEmpty())
         result = "null";
     return true;

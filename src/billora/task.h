@@ -3,6 +3,7 @@
 
 #include "answer.h"
 #include "arguments.h"
+#include "calendar.h"
 #include "command.h"
 #include "problem.h"
 #include "session.h"
@@ -21,7 +22,7 @@ public:
     /** None of the arguments is copied but the manners: the others outlive the task. */
     Task(Session &runSession, const Command &run, const Arguments &given, Answer &to, const Manners &how)
         : session(runSession), command(run), arguments(given), answer(to), manners(how),
-          reader(runSession, QDate::currentDate())
+          reader(runSession, Calendar::today())
     {
     }
 

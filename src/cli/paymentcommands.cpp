@@ -1,6 +1,7 @@
 #include "paymentcommands.h"
 
 #include "bankaccount.h"
+#include "calendar.h"
 #include "constants.h"
 #include "invoice.h"
 #include "invoicecriteria.h"
@@ -154,7 +155,7 @@ void parseSavePaymentCommand(CommandContext &context, QStringList &args, SaveCom
     if (!context.session.ensureOpen())
         return;
     State state;
-    state.record.date = QDate::currentDate();
+    state.record.date = Calendar::today();
     if (!savePayment(context, parseParameters(args), mode, state))
         return;
     context.response.startResponse(QStringLiteral("OK"));

@@ -1,6 +1,8 @@
 #ifndef PRINTMODEL_H
 #define PRINTMODEL_H
 
+#include "calendar.h"
+
 #include <QDate>
 #include <QImage>
 #include <QObject>
@@ -31,7 +33,7 @@ public:
     virtual QString lastError() const; ///< empty before a failure
 
     /** The day that scripts see as the current one: that of the system's clock and time zone unless it is set. */
-    QDate today() const { return m_today.isValid() ? m_today : QDate::currentDate(); }
+    QDate today() const { return m_today.isValid() ? m_today : Calendar::today(); }
     void setToday(const QDate &day) { m_today = day; } ///< an invalid one unsets it
     /** The day that the document is of, always valid. */
     virtual QDate date() const { return today(); }

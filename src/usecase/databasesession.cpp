@@ -1,6 +1,5 @@
 #include "databasesession.h"
 
-#include "customer.h"
 #include "postgresqldatabase.h"
 #include "query.h"
 #include "sqlitedatabase.h"
@@ -21,6 +20,9 @@ constexpr Fetch fetches[] = {&Registry::fetchBankAccounts, &Registry::fetchCusto
 
 /** Up to so many customers are read one by one rather than with the whole list. */
 constexpr int fewCustomers = 50;
+
+/** Records kept by their number within an outer transaction. */
+constexpr int mostKept = 1000;
 
 /** How long a connection is believed to be there without being asked, ms. */
 constexpr int trustedMs = 1000;
@@ -227,7 +229,53 @@ bool DatabaseSession::fetchCustomers(const QSet<int> &ids)
     return true;
 }
 
-void DatabaseSession::invalidate(CachedList list) { m_lists[static_cast<int>(list)].fetched = false; }
+template <class Record, class Key>
+bool DatabaseSession::findByNumber(bool (Query::*fetch)(Key), void (Query::*read)(Record *) const,
+                                   const std::decay_t<Key> &number, QHash<std::decay_t<Key>, QVector<Record>> &kept,
+                                   QVector<Record> &found)
+{
+    const auto known = kept.constFind(number);
+    if (known != kept.constEnd()) {
+        found = *known;
+        return true;
+    }
+    const bool isRead = (m_query.get()->*fetch)(number) && m_query->readAll([&] {
+        Record record;
+        (m_query.get()->*read)(&record);
+        found.append(record);
+    });
+    if (!isRead)
+        return failQuery();
+    if (m_isEnclosed && kept.size() < mostKept)
+        kept.insert(number, found);
+    return true;
+}
+
+bool DatabaseSession::findByNumber(int number, QVector<Customer> &found)
+{
+    return findByNumber(&Query::fetchCustomersByNumber, &Query::customer, number, m_customersByNumber, found);
+}
+
+bool DatabaseSession::findByNumber(const QString &number, QVector<Product> &found)
+{
+    return findByNumber(&Query::fetchProductsByNumber, &Query::product, number, m_productsByNumber, found);
+}
+
+void DatabaseSession::setEnclosed(bool isEnclosed)
+{
+    m_isEnclosed = isEnclosed;
+    m_customersByNumber.clear();
+    m_productsByNumber.clear();
+}
+
+void DatabaseSession::invalidate(CachedList list)
+{
+    m_lists[static_cast<int>(list)].fetched = false;
+    if (list == CachedList::customers)
+        m_customersByNumber.clear();
+    if (list == CachedList::products)
+        m_productsByNumber.clear();
+}
 
 void DatabaseSession::invalidateIfChanged()
 {

@@ -1,13 +1,18 @@
 #ifndef DATABASESESSION_H
 #define DATABASESESSION_H
 
+#include "customer.h"
+#include "product.h"
 #include "registry.h"
 
 #include <QElapsedTimer>
+#include <QHash>
 #include <QSet>
 #include <QVariantMap>
+#include <QVector>
 
 #include <memory>
+#include <type_traits>
 
 class Database;
 class QSettings;
@@ -58,6 +63,12 @@ public:
      */
     [[nodiscard]] bool fetchCustomers(const QSet<int> &ids);
     /**
+     * The customers, removed ones too, or the products of a number. Within an outer transaction they are kept: line
+     * after line names the same ones, and nobody else changes them.
+     */
+    [[nodiscard]] bool findByNumber(int number, QVector<Customer> &found);
+    [[nodiscard]] bool findByNumber(const QString &number, QVector<Product> &found);
+    /**
      * A record of the list was saved: the list is read again when next needed, unless the registry was told of the
      * change and nobody else has changed the database.
      */
@@ -81,7 +92,7 @@ public:
     /**
      * An outer transaction: those of single commands begin and end within it, until it is ended by end() of its owner.
      */
-    void setEnclosed(bool isEnclosed) { m_isEnclosed = isEnclosed; }
+    void setEnclosed(bool isEnclosed);
     bool isEnclosed() const { return m_isEnclosed; }
 
     /** Tells the query's error. @return false */
@@ -106,24 +117,30 @@ private:
     int findDatabaseIndex(int number) const;
     bool tryToOpen(QSettings *settings, bool isServer); ///< positioned as for openAt(); tells no failure
     bool openAt(QSettings *settings); ///< positioned on the keys of a database; closes again on failure
+    /** The common part of the two. @param kept  of the earlier ones */
+    template <class Record, class Key>
+    bool findByNumber(bool (Query::*fetch)(Key), void (Query::*read)(Record *) const, const std::decay_t<Key> &number,
+                      QHash<std::decay_t<Key>, QVector<Record>> &kept, QVector<Record> &found);
 
-    Registry &m_registry;                 ///< not owned
-    UseCaseListener &m_listener;          ///< not owned
-    std::unique_ptr<Database> m_database; ///< null while closed
-    std::unique_ptr<Query> m_query;       ///< of m_database, destroyed before it
-    ListState m_lists[listCount];         ///< by CachedList
-    int m_number = -1;                    ///< what the open database was asked for by
-    bool m_isSuspect = false;             ///< a statement failed: the connection may be gone
-    bool m_isTrial = false;               ///< see setTrial()
-    bool m_isGlance = false;              ///< see setGlance()
-    bool m_isLook = false;                ///< see setLook()
-    bool m_isCreating = false;            ///< see setCreating()
-    bool m_isEnclosed = false;            ///< see setEnclosed()
-    QVariantMap m_entry;                  ///< the same of openEntry(); empty: by m_number
-    QElapsedTimer m_lastUse;              ///< since the last command began
-    bool m_isLost = false;                ///< the connection is gone: to be made again
-    bool m_isReopening = false;           ///< it is being made again
-    bool m_hasWaited = false;             ///< in vain: the next command tries once
+    Registry &m_registry;                                ///< not owned
+    UseCaseListener &m_listener;                         ///< not owned
+    std::unique_ptr<Database> m_database;                ///< null while closed
+    std::unique_ptr<Query> m_query;                      ///< of m_database, destroyed before it
+    ListState m_lists[listCount];                        ///< by CachedList
+    int m_number = -1;                                   ///< what the open database was asked for by
+    bool m_isSuspect = false;                            ///< a statement failed: the connection may be gone
+    bool m_isTrial = false;                              ///< see setTrial()
+    bool m_isGlance = false;                             ///< see setGlance()
+    bool m_isLook = false;                               ///< see setLook()
+    bool m_isCreating = false;                           ///< see setCreating()
+    bool m_isEnclosed = false;                           ///< see setEnclosed()
+    QHash<int, QVector<Customer>> m_customersByNumber;   ///< see findByNumber()
+    QHash<QString, QVector<Product>> m_productsByNumber; ///< the same
+    QVariantMap m_entry;                                 ///< the same of openEntry(); empty: by m_number
+    QElapsedTimer m_lastUse;                             ///< since the last command began
+    bool m_isLost = false;                               ///< the connection is gone: to be made again
+    bool m_isReopening = false;                          ///< it is being made again
+    bool m_hasWaited = false;                            ///< in vain: the next command tries once
 };
 
 #endif

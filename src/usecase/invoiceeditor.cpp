@@ -1,5 +1,6 @@
 #include "invoiceeditor.h"
 
+#include "calendar.h"
 #include "query.h"
 #include "settings.h"
 #include "templatestringhelper.h"
@@ -13,7 +14,7 @@ bool InvoiceEditor::begin()
     if (!session.fetch(CachedList::bankAccounts) || !session.fetch(CachedList::settings))
         return false;
     const Settings *settings = session.registry().settings();
-    m_invoice.date = QDate::currentDate();
+    m_invoice.date = Calendar::today();
     m_invoice.paymentTerms = settings->property(QStringLiteral("settings/paymentTerms")).toString();
     m_invoice.interestOnArrears = settings->property(QStringLiteral("settings/interestOnArrears")).toInt();
     return true;

@@ -24,6 +24,15 @@ bool fitsIntoCents(long long sum)
 
 } // namespace
 
+bool InvoiceTotals::set(UseCaseContext &context, Invoice &invoice, long long total, long long paid)
+{
+    if (!fitsIntoCents(total) || !fitsIntoCents(total - paid))
+        return context.listener.fail(Failure::invoiceTotalTooLarge);
+    invoice.totalAmount = static_cast<int>(total);
+    invoice.balance = static_cast<int>(total - paid);
+    return true;
+}
+
 InvoiceTotals::Outcome InvoiceTotals::updateInvoice(UseCaseContext &context, int invoiceId)
 {
     return updateInvoice(context, invoiceId, SavedRows());
@@ -47,24 +56,20 @@ InvoiceTotals::Outcome InvoiceTotals::updateInvoice(UseCaseContext &context, int
     if (!query->fetchInvoiceItems(invoiceId) || !query->readAll(addItem))
         return failQuery(context);
 
-    long long balance = amount;
+    long long paid = 0;
     Payment payment;
     const auto addPayment = [&] {
         query->payment(&payment);
-        balance -= payment.amount;
+        paid += payment.amount;
     };
     if (!query->fetchPayments(invoiceId) || !query->readAll(addPayment))
         return failQuery(context);
 
-    if (!fitsIntoCents(amount) || !fitsIntoCents(balance)) {
-        context.listener.fail(Failure::invoiceTotalTooLarge);
+    if (!set(context, invoice, amount, paid))
         return Outcome::tooLarge;
-    }
     for (const InvoiceItem &row : saved.rows)
         RowTerms::write(invoice, row, saved.areNew);
     RowTerms::keepOnly(invoice, rowIds);
-    invoice.totalAmount = static_cast<int>(amount);
-    invoice.balance = static_cast<int>(balance);
     context.listener.note(Notice::savingInvoice, {QString::number(invoice.number)});
     return query->saveInvoice(&invoice) ? Outcome::updated : failQuery(context);
 }

@@ -3,6 +3,7 @@
 
 #include <QVector>
 
+class Invoice;
 class InvoiceItem;
 struct UseCaseContext;
 
@@ -20,6 +21,12 @@ struct SavedRows {
     QVector<InvoiceItem> rows;
     bool areNew = false;
 };
+
+/**
+ * Sets total and balance of an invoice, in cents.
+ * @return false, with invoiceTotalTooLarge told and nothing changed, when one is beyond 32 bits
+ */
+[[nodiscard]] bool set(UseCaseContext &context, Invoice &invoice, long long total, long long paid);
 
 /** Recomputes and saves the total and the balance; a failure is told, with nothing changed. */
 [[nodiscard]] Outcome updateInvoice(UseCaseContext &context, int invoiceId);

@@ -3,6 +3,7 @@
 #include "bankaccount.h"
 #include "customer.h"
 #include "invoice.h"
+#include "invoiceeditor.h"
 #include "invoiceitem.h"
 #include "payment.h"
 #include "product.h"
@@ -51,6 +52,21 @@ bool takeAlong(UseCaseContext &context, int earlierInvoiceId, InvoiceItem &row)
     });
 }
 
+/** Saves new rows of an invoice, numbered from the first on. */
+bool saveRows(UseCaseContext &context, int invoiceId, int number, QVector<InvoiceItem> &rows)
+{
+    for (InvoiceItem &row : rows) {
+        row.invoiceId = invoiceId;
+        row.rowNumber = number++;
+        if (!checkTotal(context, row))
+            return false;
+        if (!context.session.query()->saveInvoiceItem(&row))
+            return context.session.failQuery();
+        context.lastSaved.invoiceItem = row.id;
+    }
+    return true;
+}
+
 } // namespace
 
 bool RecordEditing::giveNumber(UseCaseContext &context, Customer &customer)
@@ -84,20 +100,35 @@ bool RecordEditing::save(UseCaseContext &context, Product &product)
 
 bool RecordEditing::addRows(UseCaseContext &context, int invoiceId, QVector<InvoiceItem> &rows)
 {
-    Query *query = context.session.query();
-    int number = query->nextRowNumber(invoiceId);
+    const int number = context.session.query()->nextRowNumber(invoiceId);
     if (number < 0)
         return context.session.failQuery();
-    for (InvoiceItem &row : rows) {
-        row.invoiceId = invoiceId;
-        row.rowNumber = number++;
+    return saveRows(context, invoiceId, number, rows) &&
+           InvoiceTotals::updateInvoice(context, invoiceId, {rows, true}) == Outcome::updated;
+}
+
+bool RecordEditing::addInvoice(UseCaseContext &context, InvoiceEditor &editor, QVector<InvoiceItem> &rows)
+{
+    Invoice &invoice = editor.invoice();
+    long long total = 0;
+    bool haveTerms = false;
+    for (const InvoiceItem &row : qAsConst(rows)) {
         if (!checkTotal(context, row))
             return false;
-        if (!query->saveInvoiceItem(&row))
-            return context.session.failQuery();
-        context.lastSaved.invoiceItem = row.id;
+        total += row.totalAmountVatIncluded();
+        haveTerms = haveTerms || !row.properties.isEmpty();
     }
-    return InvoiceTotals::updateInvoice(context, invoiceId, {rows, true}) == Outcome::updated;
+    RowTerms::keepOnly(invoice, {});
+    if (!InvoiceTotals::set(context, invoice, total, 0) || !editor.save())
+        return false;
+    context.lastSaved.invoice = invoice.id;
+    if (!saveRows(context, invoice.id, 0, rows))
+        return false;
+    if (!haveTerms)
+        return true;
+    for (const InvoiceItem &row : qAsConst(rows)) // by the ids that they have now
+        RowTerms::write(invoice, row, true);
+    return editor.save();
 }
 
 Outcome RecordEditing::saveRow(UseCaseContext &context, InvoiceItem &row, int earlierInvoiceId)

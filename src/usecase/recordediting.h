@@ -7,6 +7,7 @@
 
 class BankAccount;
 class Customer;
+class InvoiceEditor;
 class InvoiceItem;
 class Payment;
 class Product;
@@ -33,6 +34,8 @@ namespace RecordEditing {
 [[nodiscard]] InvoiceTotals::Outcome saveRow(UseCaseContext &context, InvoiceItem &row, int earlierInvoiceId);
 /** Adds rows behind those of an invoice, with one update of its total. */
 [[nodiscard]] bool addRows(UseCaseContext &context, int invoiceId, QVector<InvoiceItem> &rows);
+/** Saves the new invoice of an editor with its rows: its total is known before, and nothing is read again. */
+[[nodiscard]] bool addInvoice(UseCaseContext &context, InvoiceEditor &editor, QVector<InvoiceItem> &rows);
 /** The same for a payment. */
 [[nodiscard]] InvoiceTotals::Outcome savePayment(UseCaseContext &context, Payment &payment, int earlierInvoiceId);
 

@@ -1,5 +1,7 @@
 #include "dateformat.h"
 
+#include "calendar.h"
+
 DateFormat::DateFormat()
     : m_dayMonthYear(QStringLiteral("^(\\d{1,2})[\\.,](\\d{1,2})[\\.,](\\d{4})$")),
       m_dayMonth(QStringLiteral("^(\\d{1,2})[\\.,](\\d{1,2})[\\.,]?$")),
@@ -10,7 +12,7 @@ DateFormat::DateFormat()
 
 QDate DateFormat::parse(const QString &text) const
 {
-    const QDate today = QDate::currentDate();
+    const QDate today = Calendar::today();
     const struct {
         const QRegExp &pattern;
         bool month, year;

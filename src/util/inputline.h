@@ -23,6 +23,8 @@ public:
 
     /** The same, undecoded. @param line  unchanged at the end of the input */
     bool readBytes(QByteArray &line);
+    /** Whether the next line is there already, so that nobody waits for an answer before it. */
+    bool hasLine() const { return m_buffer.indexOf('\n', m_position) >= 0; }
 
     /**
      * Splits a command line into words. Unquoted white space ends a word (two in a row make an empty one), double

@@ -57,6 +57,8 @@ bool show(Task &task)
 bool answer(Task &task, const InvoiceRecord &record, const char *sentence)
 {
     const Invoice &invoice = record.invoice;
+    if (!task.answer.wantsSentences())
+        return task.answer.saved(invoiceTable, &record, QString(), task.session);
     const QString line = text(sentence).arg(QString::number(invoice.number), record.customerName,
                                             ValueWriter::money(invoice.totalAmount), ValueWriter::date(invoice.dueDate),
                                             Invoice::formatReferenceNumber(invoice.referenceNumber));
@@ -92,15 +94,12 @@ bool exportNew(Task &task, int id)
 bool finish(Task &task, InvoiceEditor &editor, QVector<InvoiceItem> &rows, WriteTransaction &transaction,
             const char *sentence)
 {
-    if (!editor.save())
+    if (!RecordEditing::addInvoice(task.context(), editor, rows))
         return false;
-    const int id = editor.invoice().id;
-    task.context().lastSaved.invoice = id;
-    InvoiceRecord record;
-    if (!RecordEditing::addRows(task.context(), id, rows) || !InvoiceReader::readWhole(task, id, record) ||
-        !transaction.commit() || !answer(task, record, sentence))
+    const InvoiceRecord record = InvoiceReader::ofSaved(task, editor.invoice(), editor.customer(), rows);
+    if (!transaction.commit() || !answer(task, record, sentence))
         return false;
-    if (task.flag("export") && !exportNew(task, id))
+    if (task.flag("export") && !exportNew(task, record.invoice.id))
         return false;
     if (!task.flag("export"))
         task.answer.hint(text(TEXT("Seuraavaksi: ")) +
