@@ -1,5 +1,6 @@
 #include "database.h"
 
+#include "cursor.h"
 #include "databasecheck.h"
 #include "keytable.h"
 #include "query.h"
@@ -7,10 +8,6 @@
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
-#include <QSqlRecord>
 #include <QTextStream>
 
 #include <memory>
@@ -18,39 +15,18 @@
 // A resource in a static library is linked only when it is named; the macro does not work inside a namespace or class.
 static void initSqlResource() { Q_INIT_RESOURCE(sql); }
 
-Database::Database(const QString &connectionName, QObject *parent) : QObject(parent), m_connectionName(connectionName)
-{
-}
-
 Database::~Database() = default;
-
-void Database::close() { QSqlDatabase::removeDatabase(m_connectionName); }
-
-QSqlDatabase Database::connection(bool open) const { return QSqlDatabase::database(m_connectionName, open); }
-
-bool Database::transaction()
-{
-    m_lastError.clear();
-    return connection(false).transaction();
-}
-
-bool Database::commit()
-{
-    m_lastError.clear();
-    return connection(false).commit();
-}
-
-bool Database::rollback() { return connection(false).rollback(); }
-
-QString Database::lastError() const
-{
-    return m_lastError.isEmpty() ? connection(false).lastError().text().trimmed() : m_lastError;
-}
 
 bool Database::fail(const QString &message)
 {
     m_lastError = message.trimmed();
     return false;
+}
+
+bool Database::run(const QString &sql)
+{
+    const std::unique_ptr<Cursor> statement = cursor();
+    return statement->execute(sql, {}) || fail(statement->lastError());
 }
 
 bool Database::readCreationScript(QStringList &statements)
@@ -75,11 +51,9 @@ bool Database::createTables(const QString &sellerName)
         return false;
     // In one transaction: a creation that fails leaves nothing to trip over.
     if (!transaction())
-        return fail(connection(false).lastError().text());
-    QSqlQuery statement(connection(false));
+        return false;
     for (const QString &sql : qAsConst(statements)) {
-        if (!statement.exec(sql)) {
-            fail(statement.lastError().text());
+        if (!run(sql)) {
             rollback();
             return false;
         }
@@ -90,19 +64,16 @@ bool Database::createTables(const QString &sellerName)
         rollback();
         return false;
     }
-    return commit() || fail(connection(false).lastError().text());
+    return commit();
 }
 
-bool Database::beginUpgradeStep(QSqlQuery &, int, bool &)
-{
-    return transaction() || fail(connection(false).lastError().text());
-}
+bool Database::beginUpgradeStep(int, bool &) { return transaction(); }
 
-bool Database::upgradeStep(QSqlQuery &query, int fromVersion)
+bool Database::upgradeStep(int fromVersion)
 {
     // All of a step or nothing: the version number tells what is there.
     bool isDone = false;
-    if (!beginUpgradeStep(query, fromVersion, isDone))
+    if (!beginUpgradeStep(fromVersion, isDone))
         return false;
     if (isDone)
         return true;
@@ -110,15 +81,12 @@ bool Database::upgradeStep(QSqlQuery &query, int fromVersion)
     for (const QString &sql : statements) {
         // A step that other programs left half done is completed; a failure of the last one is told as they do.
         const bool isThere = fromVersion < schemaVersion - 1 && isAddedColumn(sql);
-        if (!isThere && !query.exec(sql)) {
-            fail(query.lastError().text());
-            query.finish();
+        if (!isThere && !run(sql)) {
             rollback();
             return false;
         }
     }
-    query.finish();
-    return connection(false).commit() || fail(connection(false).lastError().text());
+    return commit();
 }
 
 /** Whether the statement adds a column that is there already. */
@@ -126,35 +94,37 @@ bool Database::isAddedColumn(const QString &sql) const
 {
     static const QRegularExpression addition(QStringLiteral("^ALTER TABLE (\\w+) ADD (\\w+) "));
     const QRegularExpressionMatch match = addition.match(sql);
-    return match.hasMatch() && connection(false).record(match.captured(1)).contains(match.captured(2));
+    return match.hasMatch() && columnsOf(match.captured(1)).contains(match.captured(2), Qt::CaseInsensitive);
 }
 
-KeyTable Database::keys() const { return KeyTable(connection(false)); }
+KeyTable Database::keys() const { return KeyTable(*this); }
 
-DatabaseCheck Database::check() const { return DatabaseCheck(connection(false), cursor(), isSQLite()); }
+DatabaseCheck Database::check() const { return DatabaseCheck(*this); }
 
 bool Database::optimize(QStringList &added)
 {
     QStringList statements;
     if (!readCreationScript(statements))
         return false;
-    QSqlQuery query(connection(false));
-    if (!query.exec(isSQLite()
-                        ? QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'index'")
-                        : QStringLiteral("SELECT indexname FROM pg_indexes WHERE schemaname = current_schema()")))
-        return fail(query.lastError().text());
+    const std::unique_ptr<Cursor> indexes = cursor();
     QStringList existing;
-    while (query.next())
-        existing.append(query.value(0).toString());
+    const bool isRead = indexes->execute(
+        isSQLite() ? QStringLiteral("SELECT name FROM sqlite_master WHERE type = 'index'")
+                   : QStringLiteral("SELECT indexname FROM pg_indexes WHERE schemaname = current_schema()"),
+        {});
+    while (isRead && indexes->next())
+        existing.append(indexes->text(0));
+    if (!isRead || indexes->hasError())
+        return fail(indexes->lastError());
     for (const QString &sql : qAsConst(statements)) {
         const QString name = sql.section(QLatin1Char(' '), 2, 2);
         if (!sql.startsWith(QLatin1String("CREATE INDEX ")) || existing.contains(name))
             continue;
-        if (!query.exec(sql))
-            return fail(query.lastError().text());
+        if (!run(sql))
+            return false;
         added.append(name);
     }
-    return query.exec(QStringLiteral("ANALYZE")) || fail(query.lastError().text());
+    return run(QStringLiteral("ANALYZE"));
 }
 
 bool Database::backupTo(const QString &)

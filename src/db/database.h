@@ -13,12 +13,10 @@ class JournalStore;
 class KeyTable;
 class Query;
 class QSettings;
-class QSqlDatabase;
-class QSqlQuery;
 
 /**
- * An open database of the invoicing system: one named Qt SQL connection, brought up to the current schema version.
- * Operations report failure by false (or an empty result), with the text in lastError().
+ * An open database of the invoicing system: one connection, brought up to the current schema version. Operations
+ * report failure by false (or an empty result), with the text in lastError().
  */
 class Database : public QObject {
     Q_OBJECT
@@ -34,7 +32,7 @@ public:
      * @return false when it cannot be opened; a missing SQLite file gives true with exists() false
      */
     [[nodiscard]] virtual bool open(QSettings *settings) = 0;
-    virtual void close(); ///< drops the connection; statements made of it must be gone before
+    virtual void close() = 0; ///< drops the connection; statements made of it must be gone before
 
     /** A missing database is made by open(); otherwise it is not, and exists() tells. */
     void setCreateIfNotExist(bool create) { m_createIfNotExist = create; }
@@ -50,14 +48,13 @@ public:
     /** Whether the connection can go while the program runs. */
     virtual bool isRemote() const { return false; }
 
-    virtual bool driverAvailable() const = 0; ///< whether this build of the library can speak to the backend
     /** @return whether the database existed before open() or was created by it */
     bool exists() const { return m_exists; }
 
     /** Not nested; the first two leave the reason of a failure in lastError(). */
-    [[nodiscard]] virtual bool transaction();
-    [[nodiscard]] virtual bool commit();
-    virtual bool rollback();
+    [[nodiscard]] virtual bool transaction() = 0;
+    [[nodiscard]] virtual bool commit() = 0;
+    virtual bool rollback() = 0;
 
     /**
      * Begins a transaction that reads and then writes, and waits for other writers of this program to finish theirs:
@@ -91,40 +88,42 @@ public:
     /** Whether the text of a failure tells of another program's lock. */
     virtual bool isLockError(const QString &reason) const = 0;
     /** The text of the last failure. */
-    QString lastError() const;
+    QString lastError() const { return m_lastError; }
 
     /** @return a new statement on this connection, owned by the caller */
     virtual Query *query() = 0;
+    /** A new one on this connection, which must be open. */
+    virtual std::unique_ptr<Cursor> cursor() const = 0;
+    virtual bool hasTable(const QString &name) const = 0;
+    /** The names of its columns, none for a table that is not there. */
+    virtual QStringList columnsOf(const QString &table) const = 0;
     /** Whether one answer may be read while another one of the connection stands open. */
     bool readsTogether() const { return isSQLite(); }
+    /** The variant of the statements that the backends do not share. */
+    virtual bool isSQLite() const = 0;
 
 protected:
-    /** @param connectionName  one per backend: a second database of the kind takes the connection over */
-    Database(const QString &connectionName, QObject *parent);
+    explicit Database(QObject *parent) : QObject(parent) {} ///< opens nothing
 
-    QSqlDatabase connection(bool open) const; ///< the named one. @param open  opens it when it is closed
+    /** Runs a statement without an answer. @return false with its text kept for lastError() */
+    bool run(const QString &sql);
     /** Runs the creation script, then writes the first records. */
     bool createTables(const QString &sellerName);
     /**
      * Runs the statements of the step from a version to the next, up to the first that fails.
      * @return the outcome of the last statement run
      */
-    bool upgradeStep(QSqlQuery &query, int fromVersion);
+    bool upgradeStep(int fromVersion);
     /** Begins the transaction of a step. @param isDone  another program has done it: nothing is begun */
-    virtual bool beginUpgradeStep(QSqlQuery &query, int fromVersion, bool &isDone);
+    virtual bool beginUpgradeStep(int fromVersion, bool &isDone);
     bool isAddedColumn(const QString &sql) const;
     /** The statements of the creation script. @return false when the resource cannot be read */
     bool readCreationScript(QStringList &statements);
     /** Sets the text of lastError() and returns false. */
     bool fail(const QString &message);
 
-    /** A new one on this connection, which is opened when it is closed. */
-    virtual std::unique_ptr<Cursor> cursor() const = 0;
-    /** The variant of the statements that the backends do not share. */
-    virtual bool isSQLite() const = 0;
-    virtual QString creationScript() const = 0;
+    virtual QString creationScript() const = 0; ///< a resource
 
-    const QString m_connectionName;                    ///< of the library's list of connections
     bool m_createIfNotExist = false;                   ///< see setCreateIfNotExist()
     bool m_exists = false;                             ///< see exists()
     bool m_isGlance = false;                           ///< see setGlance()
@@ -132,7 +131,7 @@ protected:
     OlderSchema m_olderSchema = OlderSchema::upgraded; ///< see setOlderSchema()
 
 private:
-    QString m_lastError; ///< empty: the connection tells its own
+    QString m_lastError; ///< see lastError()
 };
 
 #endif

@@ -12,8 +12,6 @@
 #include "settings.h"
 #include "tablecolumns.h"
 
-#include <QSqlRecord>
-
 #include <algorithm>
 
 namespace {
@@ -70,10 +68,7 @@ template <class Record> QPair<const char *, const char *> expectedColumns()
 
 } // namespace
 
-DatabaseCheck::DatabaseCheck(const QSqlDatabase &connection, std::unique_ptr<Cursor> cursor, bool sqlite)
-    : m_connection(connection), m_cursor(std::move(cursor)), m_isSQLite(sqlite)
-{
-}
+DatabaseCheck::DatabaseCheck(const Database &database) : m_database(database), m_cursor(database.cursor()) {}
 
 template <class Take> bool DatabaseCheck::readAll(const QString &sql, Take take)
 {
@@ -104,7 +99,7 @@ bool DatabaseCheck::run()
 
 bool DatabaseCheck::checkIntegrity()
 {
-    if (!m_isSQLite)
+    if (!m_database.isSQLite())
         return true;
     return readAll(QStringLiteral("PRAGMA integrity_check"), [this](const Cursor &row) {
         if (row.text(0) != QLatin1String("ok"))
@@ -120,10 +115,10 @@ bool DatabaseCheck::checkSchema()
         expectedColumns<Product>(),     expectedColumns<Settings>(),
     };
     for (const auto &[table, columns] : tables) {
-        const QSqlRecord record = m_connection.record(QLatin1String(table));
+        const QStringList known = m_database.columnsOf(QLatin1String(table));
         const QStringList expected = QString::fromLatin1(columns).split(QStringLiteral(", "));
         for (const QString &column : expected) {
-            if (!record.contains(column))
+            if (!known.contains(column, Qt::CaseInsensitive))
                 add("columns", table, -1, tr("Sarake %1 puuttuu").arg(column));
         }
     }

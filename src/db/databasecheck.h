@@ -3,13 +3,13 @@
 
 #include <QCoreApplication>
 #include <QHash>
-#include <QSqlDatabase>
 #include <QString>
 #include <QVector>
 
 #include <memory>
 
 class Cursor;
+class Database;
 
 /** Something in the database that is not as it should be. */
 struct Finding {
@@ -29,8 +29,7 @@ struct Finding {
 class DatabaseCheck {
     Q_DECLARE_TR_FUNCTIONS(DatabaseCheck)
 public:
-    /** @param connection  open; shared with the database that it is of. @param cursor  on the same connection */
-    DatabaseCheck(const QSqlDatabase &connection, std::unique_ptr<Cursor> cursor, bool sqlite);
+    explicit DatabaseCheck(const Database &database); ///< open, outlives this
 
     /** @return false, with the reason in lastError(), when a statement fails; the findings so far are kept */
     [[nodiscard]] bool run();
@@ -62,9 +61,8 @@ private:
     bool checkTotals();
     bool readSums(QHash<int, Sums> &sums); ///< of every invoice, by id, in one pass
 
-    QSqlDatabase m_connection;        ///< open
+    const Database &m_database;       ///< not owned
     std::unique_ptr<Cursor> m_cursor; ///< for all statements
-    bool m_isSQLite;                  ///< integrity and its statements are SQLite's own
     QVector<Finding> m_findings;      ///< in the order of the checks
     QHash<int, Sums> m_wrongInvoices; ///< by id, with the right figures
     int m_repairedCount = 0;          ///< findings that repairTotals() settled

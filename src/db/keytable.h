@@ -1,8 +1,12 @@
 #ifndef KEYTABLE_H
 #define KEYTABLE_H
 
-#include <QSqlDatabase>
 #include <QString>
+
+#include <memory>
+
+class Cursor;
+class Database;
 
 /**
  * The keys that requests were made under, so that a repeat is harmless: the table `billora_key`, made at the first key.
@@ -16,7 +20,8 @@ public:
         int recordId = 0; ///< of what it saved; 0 for none
     };
 
-    explicit KeyTable(const QSqlDatabase &connection) : m_connection(connection) {} ///< an open connection, shared
+    explicit KeyTable(const Database &database); ///< open, outlives this
+    ~KeyTable();
 
     /** @param isFound  set to whether the key was used before */
     [[nodiscard]] bool find(const QString &key, Entry &entry, bool &isFound);
@@ -27,9 +32,11 @@ public:
 
 private:
     bool exists() const; ///< the table
+    bool fail();         ///< keeps the text of the last statement. @return false
 
-    QSqlDatabase m_connection; ///< open
-    QString m_lastError;       ///< of the last failure
+    const Database &m_database;       ///< not owned
+    std::unique_ptr<Cursor> m_cursor; ///< for all statements
+    QString m_lastError;              ///< of the last failure
 };
 
 #endif

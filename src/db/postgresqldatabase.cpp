@@ -10,12 +10,16 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QSqlRecord>
 
 Q_LOGGING_CATEGORY(databaseLog, "billora.database")
 
 namespace {
 
 constexpr int defaultPort = 5432;
+
+/** In the library's list; one server at a time. */
+const QString connectionName = QStringLiteral("postgresql");
 
 /** How long a statement waits for another client's lock before it fails. */
 constexpr int lockTimeoutMs = 5000;
@@ -37,9 +41,38 @@ QString quoted(const QString &value)
 
 } // namespace
 
-PostgreSQLDatabase::PostgreSQLDatabase(QObject *parent) : Database(QStringLiteral("postgresql"), parent) {}
+PostgreSQLDatabase::PostgreSQLDatabase(QObject *parent) : Database(parent) {}
 
-bool PostgreSQLDatabase::driverAvailable() const { return QSqlDatabase::isDriverAvailable(QStringLiteral("QPSQL")); }
+QSqlDatabase PostgreSQLDatabase::connection() const { return QSqlDatabase::database(connectionName, false); }
+
+void PostgreSQLDatabase::close() { QSqlDatabase::removeDatabase(connectionName); }
+
+bool PostgreSQLDatabase::failConnection() { return fail(connection().lastError().text()); }
+
+bool PostgreSQLDatabase::transaction()
+{
+    fail(QString());
+    return connection().transaction() || failConnection();
+}
+
+bool PostgreSQLDatabase::commit()
+{
+    fail(QString());
+    return connection().commit() || failConnection();
+}
+
+bool PostgreSQLDatabase::rollback() { return connection().rollback(); }
+
+bool PostgreSQLDatabase::hasTable(const QString &name) const { return connection().tables().contains(name); }
+
+QStringList PostgreSQLDatabase::columnsOf(const QString &table) const
+{
+    const QSqlRecord record = connection().record(table);
+    QStringList names;
+    for (int i = 0; i < record.count(); ++i)
+        names.append(record.fieldName(i));
+    return names;
+}
 
 bool PostgreSQLDatabase::open(QSettings *settings)
 {
@@ -47,7 +80,7 @@ bool PostgreSQLDatabase::open(QSettings *settings)
     const QString name = settings->value(QStringLiteral("databaseName"), QStringLiteral("billora")).toString();
     if (host.isEmpty() || name.isEmpty())
         return fail(tr("Tietokantapalvelimen tai tietokannan nimi puuttuu"));
-    QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), m_connectionName);
+    QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QPSQL"), connectionName);
     database.setHostName(host);
     const QString ports = settings->value(QStringLiteral("port"), defaultPort).toString();
     const bool hasPorts = ports.contains(QLatin1Char(','));
@@ -114,7 +147,7 @@ bool PostgreSQLDatabase::createDatabase(QSqlDatabase &database, const QString &n
 
 int PostgreSQLDatabase::upgrade()
 {
-    QSqlQuery query(connection(false));
+    QSqlQuery query(connection());
     if (!query.exec(QStringLiteral("SELECT version FROM settings"))) {
         fail(query.lastError().text());
         return query.lastError().databaseText().contains(QLatin1String("does not exist")) ? noTables : upgradeFailed;
@@ -133,10 +166,11 @@ int PostgreSQLDatabase::upgrade()
 }
 
 /** One program at a time: two that run the same steps would write each other's version numbers. */
-bool PostgreSQLDatabase::beginUpgradeStep(QSqlQuery &query, int fromVersion, bool &isDone)
+bool PostgreSQLDatabase::beginUpgradeStep(int fromVersion, bool &isDone)
 {
     if (!beginWriting())
         return false;
+    QSqlQuery query(connection());
     if (!query.exec(QStringLiteral("SELECT version FROM settings")) || !query.next()) {
         fail(query.lastError().text());
         rollback();
@@ -149,18 +183,17 @@ bool PostgreSQLDatabase::beginUpgradeStep(QSqlQuery &query, int fromVersion, boo
 
 int PostgreSQLDatabase::upgradeFrom(int version)
 {
-    QSqlQuery query(connection(false));
     bool ok = true;
     for (int from = version; ok && from < schemaVersion; ++from)
-        ok = upgradeStep(query, from);
+        ok = upgradeStep(from);
     if (!ok)
-        qCWarning(databaseLog).noquote() << query.lastError().text();
+        qCWarning(databaseLog).noquote() << lastError();
     return ok ? schemaVersion : upgradeFailed;
 }
 
 bool PostgreSQLDatabase::limitWaiting(const char *scope)
 {
-    QSqlQuery query(connection(false));
+    QSqlQuery query(connection());
     return query.exec(QStringLiteral("SET %1 lock_timeout = '%2ms'").arg(QLatin1String(scope)).arg(lockTimeoutMs)) ||
            fail(query.lastError().text());
 }
@@ -168,12 +201,12 @@ bool PostgreSQLDatabase::limitWaiting(const char *scope)
 bool PostgreSQLDatabase::beginWriting()
 {
     if (!transaction())
-        return fail(connection(false).lastError().text());
+        return false;
     if (m_isPooled && !limitWaiting("LOCAL")) {
         rollback();
         return false;
     }
-    QSqlQuery query(connection(false));
+    QSqlQuery query(connection());
     if (query.exec(QStringLiteral("SELECT pg_advisory_xact_lock(%1)").arg(writerLock)))
         return true;
     fail(query.lastError().text());
@@ -183,14 +216,14 @@ bool PostgreSQLDatabase::beginWriting()
 
 bool PostgreSQLDatabase::beginReading()
 {
-    QSqlQuery query(connection(false));
+    QSqlQuery query(connection());
     return query.exec(QStringLiteral("BEGIN ISOLATION LEVEL REPEATABLE READ READ ONLY")) ||
            fail(query.lastError().text());
 }
 
 std::unique_ptr<Cursor> PostgreSQLDatabase::cursor() const
 {
-    return std::make_unique<PostgreSQLCursor>(QSqlQuery(connection(true)), m_isPooled);
+    return std::make_unique<PostgreSQLCursor>(QSqlQuery(connection()), m_isPooled);
 }
 
 Query *PostgreSQLDatabase::query() { return new PostgreSQLQuery(cursor(), this); }
@@ -202,5 +235,5 @@ bool PostgreSQLDatabase::isLockError(const QString &reason) const
 
 std::unique_ptr<JournalStore> PostgreSQLDatabase::journal() const
 {
-    return std::make_unique<JournalTable>(connection(false));
+    return std::make_unique<JournalTable>(connection());
 }

@@ -3,6 +3,8 @@
 
 #include "database.h"
 
+class QSqlDatabase;
+
 /** The server backend. Takes no backups: an upgrade happens in place. */
 class PostgreSQLDatabase : public Database {
     Q_OBJECT
@@ -17,17 +19,22 @@ public:
      */
     bool open(QSettings *settings) override;
     bool isRemote() const override { return true; }
-    bool driverAvailable() const override;
+    void close() override;
+    bool transaction() override;
+    bool commit() override;
+    bool rollback() override;
     bool beginWriting() override; ///< waits up to five seconds for the lock that all writers of this program take
     bool beginReading() override; ///< repeatable read, read only
     Query *query() override;      ///< see PostgreSQLQuery
+    std::unique_ptr<Cursor> cursor() const override;
+    bool hasTable(const QString &name) const override;
+    QStringList columnsOf(const QString &table) const override;
+    bool isSQLite() const override { return false; }
     bool isLockError(const QString &reason) const override;
     std::unique_ptr<JournalStore> journal() const override; ///< see JournalTable
 
 protected:
     /** See Database. */
-    std::unique_ptr<Cursor> cursor() const override;
-    bool isSQLite() const override { return false; }
     QString creationScript() const override { return QStringLiteral(":/sql/postgresql.sql"); }
 
 private:
@@ -39,8 +46,11 @@ private:
     int upgrade();                ///< @return the schema version that is reached, or one of the outcomes above
     int upgradeFrom(int version); ///< @return as upgrade()
     /** With the lock of all writers, which ends with the step. */
-    bool beginUpgradeStep(QSqlQuery &query, int fromVersion, bool &isDone) override;
+    bool beginUpgradeStep(int fromVersion, bool &isDone) override;
     bool limitWaiting(const char *scope); ///< of a statement for another client's lock. @param scope  SESSION or LOCAL
+
+    QSqlDatabase connection() const; ///< the library's own of its list
+    bool failConnection();           ///< @return false, with its text kept for lastError()
 
     bool m_isPooled = false; ///< see open()
 };

@@ -2,9 +2,6 @@
 
 #include "isodate.h"
 
-#include <QSqlDatabase>
-#include <QSqlDriver>
-
 #include <sqlite3.h>
 
 namespace {
@@ -37,13 +34,6 @@ int bindText(sqlite3_stmt *statement, int mark, const QString &text)
 }
 
 } // namespace
-
-SQLiteCursor::SQLiteCursor(const QSqlDatabase &connection)
-{
-    const QVariant handle = connection.driver()->handle();
-    if (qstrcmp(handle.typeName(), "sqlite3*") == 0)
-        m_handle = *static_cast<sqlite3 *const *>(handle.constData());
-}
 
 SQLiteCursor::~SQLiteCursor() { forgetAll(); }
 

@@ -5,18 +5,17 @@
 
 #include <QHash>
 
-class QSqlDatabase;
 struct sqlite3;
 struct sqlite3_stmt;
 
 /**
- * Speaks to SQLite itself, on the connection that the library opened: the library's own driver describes every column
- * anew at each execution and converts all of a row, which is several times the work of a small statement. Prepared
- * statements are kept for the next time. Errors read as the driver's do.
+ * Speaks to SQLite itself: the library's driver describes every column anew at each execution and converts all of a
+ * row, which is several times the work of a small statement. Prepared statements are kept for the next time. Errors
+ * read as that driver's do.
  */
 class SQLiteCursor : public Cursor {
 public:
-    explicit SQLiteCursor(const QSqlDatabase &connection); ///< open, and not closed before this is gone
+    explicit SQLiteCursor(sqlite3 *handle) : m_handle(handle) {} ///< open, outlives this
     ~SQLiteCursor() override;
     SQLiteCursor(const SQLiteCursor &) = delete;
     SQLiteCursor &operator=(const SQLiteCursor &) = delete;
@@ -44,7 +43,7 @@ private:
     bool fail(const char *what);
     void forgetAll(); ///< ends all kept statements
 
-    sqlite3 *m_handle = nullptr;                 ///< owned by the connection
+    sqlite3 *const m_handle;                     ///< not owned
     QHash<QString, sqlite3_stmt *> m_statements; ///< the kept ones by their text, owned
     sqlite3_stmt *m_statement = nullptr;         ///< the last one; null when it could not be prepared
     bool m_isOnRow = false;                      ///< the statement stands on a row

@@ -9,9 +9,8 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QSettings>
-#include <QSqlDatabase>
-#include <QSqlError>
-#include <QSqlQuery>
+
+#include <sqlite3.h>
 
 namespace {
 
@@ -23,11 +22,12 @@ constexpr int upgradeWaitMs = 60000;
 
 } // namespace
 
-SQLiteDatabase::SQLiteDatabase(QObject *parent) : Database(QStringLiteral("sqlite"), parent) {}
+SQLiteDatabase::SQLiteDatabase(QObject *parent) : Database(parent) {}
 
 SQLiteDatabase::~SQLiteDatabase() = default;
 
-bool SQLiteDatabase::driverAvailable() const { return QSqlDatabase::isDriverAvailable(QStringLiteral("QSQLITE")); }
+// Also where a statement is forgotten: the connection then ends with it.
+void SQLiteDatabase::Closer::operator()(sqlite3 *handle) const { sqlite3_close_v2(handle); }
 
 bool SQLiteDatabase::open(QSettings *settings)
 {
@@ -35,12 +35,17 @@ bool SQLiteDatabase::open(QSettings *settings)
     if (filename.isEmpty())
         return fail(tr("Tietokannan tiedostonimi puuttuu"));
     m_exists = QFile::exists(filename); // before the connection: opening makes the file
-    QSqlDatabase database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connectionName);
-    database.setDatabaseName(filename);
-    database.setConnectOptions(m_isGlance ? QStringLiteral("QSQLITE_BUSY_TIMEOUT=0;QSQLITE_OPEN_READONLY")
-                                          : QStringLiteral("QSQLITE_BUSY_TIMEOUT=%1").arg(busyTimeoutMs));
-    if (!database.open())
-        return fail(tr("Tietokantaa %1 ei voi avata: %2").arg(filename, database.lastError().text().trimmed()));
+    const int access = m_isGlance ? SQLITE_OPEN_READONLY : SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE;
+    sqlite3 *handle = nullptr;
+    const int result = sqlite3_open_v2(filename.toUtf8().constData(), &handle, access | SQLITE_OPEN_NOMUTEX, nullptr);
+    m_handle.reset(handle);
+    if (result != SQLITE_OK) {
+        const QString reason = QString::fromUtf8(sqlite3_errmsg(handle)) + QLatin1String(" Error opening database");
+        return fail(tr("Tietokantaa %1 ei voi avata: %2").arg(filename, reason));
+    }
+    sqlite3_busy_timeout(handle, m_isGlance ? 0 : busyTimeoutMs);
+    m_fileName = filename;
+    m_statements = std::make_unique<SQLiteCursor>(handle);
     if (!m_exists) {
         if (!isCreateIfNotExist())
             return true; // the caller looks at exists()
@@ -53,34 +58,60 @@ bool SQLiteDatabase::open(QSettings *settings)
 
 void SQLiteDatabase::close()
 {
-    m_dataVersion.reset();
-    Database::close();
+    m_statements.reset();
+    m_handle.reset();
 }
+
+bool SQLiteDatabase::runTransaction(const QString &sql, const char *what)
+{
+    fail(QString());
+    if (m_statements->execute(sql, {}))
+        return true;
+    const QString reason = m_statements->lastError();
+    return fail(reason.left(reason.lastIndexOf(QLatin1String(" Unable"))) + QLatin1Char(' ') + QLatin1String(what));
+}
+
+bool SQLiteDatabase::transaction() { return runTransaction(QStringLiteral("BEGIN"), "Unable to begin transaction"); }
+
+bool SQLiteDatabase::commit() { return runTransaction(QStringLiteral("COMMIT"), "Unable to commit transaction"); }
+
+bool SQLiteDatabase::rollback() { return m_statements->execute(QStringLiteral("ROLLBACK"), {}); }
 
 bool SQLiteDatabase::beginWriting()
 {
     // IMMEDIATE: a transaction that first reads and then wants to write could otherwise meet another one that does
     // the same, and neither could go on.
     fail(QString());
-    QSqlQuery query(connection(false));
-    return query.exec(QStringLiteral("BEGIN IMMEDIATE")) || fail(query.lastError().text());
+    return run(QStringLiteral("BEGIN IMMEDIATE"));
 }
 
-std::unique_ptr<Cursor> SQLiteDatabase::cursor() const { return std::make_unique<SQLiteCursor>(connection(true)); }
+std::unique_ptr<Cursor> SQLiteDatabase::cursor() const { return std::make_unique<SQLiteCursor>(m_handle.get()); }
 
 Query *SQLiteDatabase::query() { return new Query(cursor(), this); }
 
 long long SQLiteDatabase::foreignChanges()
 {
-    if (!m_dataVersion) {
-        m_dataVersion = std::make_unique<QSqlQuery>(connection(false));
-        m_dataVersion->setForwardOnly(true);
-        m_dataVersion->prepare(QStringLiteral("PRAGMA data_version"));
-    }
-    const bool known = m_dataVersion->exec() && m_dataVersion->next();
-    const long long version = known ? m_dataVersion->value(0).toLongLong() : -1;
-    m_dataVersion->finish();
+    const bool known = m_statements->execute(QStringLiteral("PRAGMA data_version"), {}) && m_statements->next();
+    const long long version = known ? m_statements->bigInteger(0) : -1;
+    m_statements->finish();
     return version;
+}
+
+bool SQLiteDatabase::hasTable(const QString &name) const
+{
+    SQLiteCursor tables(m_handle.get());
+    return tables.execute(QStringLiteral("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?"), {name}) &&
+           tables.next();
+}
+
+QStringList SQLiteDatabase::columnsOf(const QString &table) const
+{
+    SQLiteCursor columns(m_handle.get());
+    QStringList names;
+    const bool isThere = columns.execute(QStringLiteral("SELECT name FROM pragma_table_info(?)"), {table});
+    while (isThere && columns.next())
+        names.append(columns.text(0));
+    return names;
 }
 
 bool SQLiteDatabase::backupTo(const QString &filename)
@@ -92,25 +123,22 @@ bool SQLiteDatabase::backupTo(const QString &filename)
     QFile target(QFileInfo(filename).absoluteFilePath());
     if (!target.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         return fail(tr("Tiedostoa %1 ei voi kirjoittaa: %2").arg(filename, target.errorString()));
-    target.setPermissions(QFile::permissions(connection(false).databaseName()));
+    target.setPermissions(QFile::permissions(m_fileName));
     target.close();
-    QSqlQuery query(connection(false));
-    query.prepare(QStringLiteral("VACUUM INTO ?"));
-    query.bindValue(0, target.fileName());
-    if (query.exec())
+    SQLiteCursor copy(m_handle.get());
+    if (copy.execute(QStringLiteral("VACUUM INTO ?"), {target.fileName()}))
         return true;
     target.remove();
-    return fail(tr("Tiedostoa %1 ei voi kirjoittaa: %2").arg(filename, query.lastError().text().trimmed()));
+    return fail(tr("Tiedostoa %1 ei voi kirjoittaa: %2").arg(filename, copy.lastError()));
 }
 
 /** @return the schema version, 0 without a settings row, nothing when it cannot be read */
 std::optional<int> SQLiteDatabase::storedVersion()
 {
-    QSqlQuery query(connection(false));
-    query.exec(QStringLiteral("SELECT version FROM settings"));
-    if (query.isActive())
-        return query.next() ? query.value(0).toInt() : 0;
-    fail(query.lastError().text());
+    SQLiteCursor settings(m_handle.get());
+    if (settings.execute(QStringLiteral("SELECT version FROM settings"), {}))
+        return settings.next() ? settings.integer(0) : 0;
+    fail(settings.lastError());
     return std::nullopt;
 }
 
@@ -130,10 +158,9 @@ bool SQLiteDatabase::upgrade(const QString &filename)
     if (!lock.tryLock(upgradeWaitMs) && lock.error() == QLockFile::LockFailedError)
         return fail(tr("Toinen ohjelma päivittää tietokantaa %1").arg(filename));
     version = storedVersion();
-    QSqlQuery query(connection(false));
     for (int from = version.value_or(schemaVersion); from < schemaVersion; ++from) {
         backup(filename);
-        if (!upgradeStep(query, from)) // the version still tells the truth
+        if (!upgradeStep(from)) // the version still tells the truth
             return false;
     }
     return true;
@@ -163,7 +190,4 @@ QString SQLiteDatabase::appendSuffixToFilename(const QString &name)
 
 bool SQLiteDatabase::isLockError(const QString &reason) const { return reason.contains(QLatin1String("locked")); }
 
-std::unique_ptr<JournalStore> SQLiteDatabase::journal() const
-{
-    return std::make_unique<JournalFile>(connection(false).databaseName());
-}
+std::unique_ptr<JournalStore> SQLiteDatabase::journal() const { return std::make_unique<JournalFile>(m_fileName); }

@@ -7,7 +7,6 @@
 class OpenTest : public QObject {
     Q_OBJECT
 private slots:
-    void drivers();
     void open_data();
     void open();
 };
@@ -17,12 +16,6 @@ enum Creation { existingOnly, mayCreate };
 
 Q_DECLARE_METATYPE(Found)
 Q_DECLARE_METATYPE(Creation)
-
-void OpenTest::drivers()
-{
-    QVERIFY(TestDatabase(QStringLiteral("sqlite")).database()->driverAvailable());
-    QVERIFY(TestDatabase(QStringLiteral("postgresql")).database()->driverAvailable());
-}
 
 void OpenTest::open_data()
 {

@@ -2,6 +2,7 @@
 #define PRINTDATABASE_H
 
 #include "bankaccount.h"
+#include "cursor.h"
 #include "customer.h"
 #include "invoice.h"
 #include "invoiceitem.h"
@@ -15,7 +16,6 @@
 #include "testdatabase.h"
 
 #include <QSettings>
-#include <QSqlQuery>
 #include <QtTest>
 
 /** A database with a registry, for tests that fill it record by record. A record that cannot be saved ends the test. */
@@ -25,7 +25,7 @@ public:
     {
         check(m_database.open());
         const char *fast = "PRAGMA synchronous = OFF"; // nobody pulls the plug here
-        QSqlQuery(QSqlDatabase::database("sqlite")).exec(fast);
+        check(m_database.database()->cursor()->execute(fast, {}));
         m_database.run(fast);
         m_query = m_database.query();
         m_registry.setDatabase(m_database.database());
