@@ -36,8 +36,10 @@ bool PostgreSQLCursor::execute(const QString &sql, const QVariantList &values)
         return false;
     }
     m_query.finish();
-    m_wasPrepared = m_isPooled || m_query.prepare(sql);
-    if (m_isPooled)
+    // The server prepares no statement that defines something.
+    const bool isPrepared = !m_isPooled && (!values.isEmpty() || sql.startsWith(QLatin1String("SELECT")));
+    m_wasPrepared = !isPrepared || m_query.prepare(sql);
+    if (!isPrepared)
         return m_query.exec(SqlText::filled(*m_query.driver(), sql, values));
     if (!m_wasPrepared)
         return false;

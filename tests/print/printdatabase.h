@@ -3,6 +3,7 @@
 
 #include "bankaccount.h"
 #include "cursor.h"
+#include "database.h"
 #include "customer.h"
 #include "invoice.h"
 #include "invoiceitem.h"
