@@ -312,10 +312,6 @@
         <translation>no invoice was found</translation>
     </message>
     <message>
-        <source>Lasku %1 on lähetetty.</source>
-        <translation>Invoice %1 has been sent.</translation>
-    </message>
-    <message>
         <source>Poistetaanko lasku riveineen ja suorituksineen?</source>
         <translation>Remove the invoice with its rows and payments?</translation>
     </message>
@@ -1386,6 +1382,10 @@ Overdue %4, %5</translation>
     <message>
         <source>suoritusta ei löytynyt: id:%1</source>
         <translation>payment not found: id:%1</translation>
+    </message>
+    <message>
+        <source>asiakirjoja tekevää osaa ei voi ladata: %1</source>
+        <translation>the part that makes documents cannot be loaded: %1</translation>
     </message>
     <message>
         <source>laskupohjaa ei löytynyt: "%1"</source>
@@ -2502,6 +2502,10 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
         <translation>which invoices? Give numbers, conditions or the option --all</translation>
     </message>
     <message>
+        <source>Lasku %1 on lähetetty.</source>
+        <translation>Invoice %1 has been sent.</translation>
+    </message>
+    <message>
         <source>lasku %1 on lähetetty; muutos vaatii valinnan --yes</source>
         <translation>invoice %1 has been sent; changing it needs --yes</translation>
     </message>
@@ -2902,10 +2906,6 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
         <translation>The invoice's total is too large</translation>
     </message>
     <message>
-        <source>Tulostuspohja vaati liikaa muistia, aikaa tai sisäkkäisiä kutsuja</source>
-        <translation>The layout asked for too much memory, time or depth of calls</translation>
-    </message>
-    <message>
         <source>Varmuuskopio tehdään vain SQLite-tietokannasta; käytä ohjelmaa pg_dump</source>
         <translation>Backups are made of SQLite databases only; use pg_dump</translation>
     </message>
@@ -2950,6 +2950,10 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
         <translation> (corrected)</translation>
     </message>
     <message>
+        <source>PostgreSQL ei tallenna tekstiä, jossa on NUL-merkki</source>
+        <translation>PostgreSQL does not store a text with a NUL character</translation>
+    </message>
+    <message>
         <source>Tietokantapalvelimen tai tietokannan nimi puuttuu</source>
         <translation>The server or the name of the database is missing</translation>
     </message>
@@ -2960,10 +2964,6 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>Tietokannan rakenne on vanha</source>
         <translation>The schema of the database is old</translation>
-    </message>
-    <message>
-        <source>PostgreSQL ei tallenna tekstiä, jossa on NUL-merkki</source>
-        <translation>PostgreSQL does not store a text with a NUL character</translation>
     </message>
     <message>
         <source>Tietokannan tiedostonimi puuttuu</source>

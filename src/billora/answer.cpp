@@ -319,6 +319,7 @@ bool Answer::show(const RecordTable &table, const void *record, ProblemSink &sin
     }
     if (m_options.form == OutputForm::csv && !m_options.quiet)
         writeCsvLine([](const Field &field) { return QString::fromLatin1(field.name); });
+    m_buffer.reserve(roomForRecord);
     writeRecord(record);
     if (m_options.form == OutputForm::json && !m_options.quiet)
         m_buffer += '\n';

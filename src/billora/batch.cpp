@@ -69,33 +69,41 @@ bool Batch::runLine(const QByteArray &json, QByteArray &result)
     return true;
 }
 
-bool Batch::send(const QByteArray &line, bool isNextThere)
+bool Batch::send(bool isNextThere)
 {
-    m_gathered += line;
     if (isNextThere && m_gathered.size() < pieceSize)
         return true;
     const bool isWritten = m_gathered.isEmpty() || m_write(m_gathered);
-    m_gathered.clear();
+    m_gathered.resize(0); // keeps its memory
     return isWritten;
+}
+
+bool Batch::writeResult(int line, const QByteArray &result, bool isNextThere)
+{
+    m_gathered += "{\"line\":";
+    m_gathered += QByteArray::number(line);
+    m_gathered += ",\"ok\":true,\"result\":";
+    m_gathered += result;
+    m_gathered += "}\n";
+    return send(isNextThere);
 }
 
 bool Batch::writeFailure(int line)
 {
-    QByteArray bytes;
-    JsonWriter json(bytes);
+    JsonWriter json(m_gathered);
     json.beginObject();
     json.member("line", line);
     json.member("ok", false);
     json.name("error");
     m_session.problem().write(json);
     json.endObject();
-    return send(bytes + '\n', false);
+    m_gathered += '\n';
+    return send(false);
 }
 
 bool Batch::writeEnd(bool isCommitted, int lines, int failed, bool isReplayed)
 {
-    QByteArray bytes;
-    JsonWriter json(bytes);
+    JsonWriter json(m_gathered);
     json.beginObject();
     json.member("committed", isCommitted);
     json.member("lines", lines);
@@ -106,17 +114,9 @@ bool Batch::writeEnd(bool isCommitted, int lines, int failed, bool isReplayed)
     if (isReplayed)
         json.member("replayed", true);
     json.endObject();
-    return send(bytes + '\n', false);
+    m_gathered += '\n';
+    return send(false);
 }
-
-namespace {
-
-QByteArray success(int line, const QByteArray &result)
-{
-    return "{\"line\":" + QByteArray::number(line) + ",\"ok\":true,\"result\":" + result + "}\n";
-}
-
-} // namespace
 
 int Batch::runEach()
 {
@@ -131,7 +131,7 @@ int Batch::runEach()
         const bool done = runLine(line, result);
         if (!done)
             ++failed;
-        if (!(done ? send(success(count, result), false) : writeFailure(count)))
+        if (!(done ? writeResult(count, result, false) : writeFailure(count)))
             return 0; // nobody reads any more
     }
     writeEnd(!m_options.manners.isDryRun, count, failed);
@@ -192,10 +192,10 @@ int Batch::runTogether()
         isWhole = runLine(line, result);
         if (!isWhole)
             writeFailure(count);
-        else if (!send(success(count, result), input.hasLine() || next < lines.size()))
+        else if (!writeResult(count, result, input.hasLine() || next < lines.size()))
             isWhole = false; // who does not read the answers does not know that anything was done
     }
-    isWhole = isWhole && send(QByteArray(), false);
+    isWhole = isWhole && send(false);
     if (isWhole && !digest.isEmpty() && !m_options.manners.isDryRun) {
         KeyTable keys = database.database()->keys();
         isWhole = keys.add(m_options.key, {digest, 0}) || database.failDatabase(keys.lastError());

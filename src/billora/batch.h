@@ -37,11 +37,12 @@ private:
     /** The last line of the answer. @return false when nobody reads any more */
     bool writeEnd(bool isCommitted, int lines, int failed, bool isReplayed = false);
     /**
-     * Gathers answers while the next line is there already, and writes them else.
+     * Writes the gathered answers, unless the next line is there already and they are few.
      * @return false when nobody reads any more
      */
-    bool send(const QByteArray &line, bool isNextThere);
-    int runEach();     ///< @return 3 when a line failed
+    bool send(bool isNextThere);
+    bool writeResult(int line, const QByteArray &result, bool isNextThere); ///< @return as send()
+    int runEach();                                                          ///< @return 3 when a line failed
     int runTogether(); ///< one transaction: all lines or none, which also an unread answer means
 
     Session &m_session;        ///< not owned

@@ -65,6 +65,8 @@ constexpr FailureRow failures[] = {
      TEXT("laskuriviä ei löytynyt: id:%1")},
     {Failure::paymentIdUnknown, Problem::notFound, "payment", "billora payment list",
      TEXT("suoritusta ei löytynyt: id:%1")},
+    {Failure::documentsUnavailable, Problem::file, nullptr, nullptr,
+     TEXT("asiakirjoja tekevää osaa ei voi ladata: %1")},
     {Failure::layoutUnknown, Problem::notFound, "layout", "billora layout list",
      TEXT("laskupohjaa ei löytynyt: \"%1\"")},
     {Failure::scriptUnreadable, Problem::file, nullptr, nullptr, TEXT("laskupohjaa ei voi lukea")},

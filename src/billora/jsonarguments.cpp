@@ -28,6 +28,9 @@ QString textOf(const Json &value)
     return QString::fromUtf8(value.GetString(), static_cast<int>(value.GetStringLength()));
 }
 
+/** Memory for a request of the usual size, lest each line asks for some; one request is read at a time. */
+char room[65536];
+
 bool parse(const ValueReader &reader, const QByteArray &json, rapidjson::Document &document)
 {
     document.Parse<parseFlags>(json.constData(), static_cast<std::size_t>(json.size()));
@@ -90,13 +93,15 @@ bool takeObject(const ValueReader &reader, const Json &object, const QString &pa
 
 bool JsonArguments::readObject(const ValueReader &reader, const QByteArray &json, Arguments &arguments)
 {
-    rapidjson::Document document;
+    rapidjson::MemoryPoolAllocator<> allocator(room, sizeof room);
+    rapidjson::Document document(&allocator);
     return parse(reader, json, document) && takeObject(reader, document, QString(), arguments);
 }
 
 bool JsonArguments::readLine(const ValueReader &reader, const QByteArray &json, Line &line)
 {
-    rapidjson::Document document;
+    rapidjson::MemoryPoolAllocator<> allocator(room, sizeof room);
+    rapidjson::Document document(&allocator);
     if (!parse(reader, json, document))
         return false;
     const struct {

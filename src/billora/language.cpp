@@ -15,21 +15,10 @@ namespace {
 Language::Code currentCode = Language::finnish;
 
 /** The classes below this program whose texts reach people; those of documents stay in the documents' language. */
-constexpr const char *layers[] = {"billora",
-                                  "Database",
-                                  "DatabaseCheck",
-                                  "SQLiteDatabase",
-                                  "Query",
-                                  "PostgreSQLDatabase",
-                                  "PostgreSQLCursor",
-                                  "PaymentFileReader",
-                                  "PaymentMatcher",
-                                  "ScriptedDocuments",
-                                  "ScriptRunner",
-                                  "PrintScriptManager",
-                                  "PdfOutput",
-                                  "ArchiveFile",
-                                  "XmlScriptEnvironment"};
+constexpr const char *layers[] = {"billora",        "Database",           "DatabaseCheck",       "SQLiteDatabase",
+                                  "Query",          "PostgreSQLDatabase", "PostgreSQLCursor",    "PaymentFileReader",
+                                  "PaymentMatcher", "ScriptedDocuments",  "ScriptRunner",        "PrintScriptManager",
+                                  "PdfOutput",      "ArchiveFile",        "XmlScriptEnvironment"};
 
 class LayerTranslator : public QTranslator {
 public:
@@ -59,9 +48,21 @@ Language::Code Language::choose(const QString &option, const QString &environmen
     return english;
 }
 
-void Language::use(Code code)
+static LayerTranslator &theTranslator()
 {
     static LayerTranslator translator;
+    return translator;
+}
+
+void Language::renew()
+{
+    if (currentCode == english)
+        QCoreApplication::installTranslator(&theTranslator());
+}
+
+void Language::use(Code code)
+{
+    LayerTranslator &translator = theTranslator();
     if (code == currentCode)
         return;
     currentCode = code;

@@ -16,6 +16,8 @@ bool isKnown(const QString &word);
 
 /** Makes text() and tr() of the program's own layers speak the language. Documents are not touched. */
 void use(Code code);
+/** For an application object that took the place of another one. */
+void renew();
 Code current(); ///< Finnish until use()
 /** "fi" or "en" */
 QString name();

@@ -110,12 +110,6 @@ bool Program::readGlobals(const CommandLine &line)
     return true;
 }
 
-bool Program::paints(const QStringList &words)
-{
-    const CommandLine line = OptionParser::parse(words);
-    return line.command && line.command->is(Command::paints) && !isGiven(line.global, "help");
-}
-
 int Program::run(const QStringList &words)
 {
     const int completeAt = words.indexOf(QStringLiteral("__complete"));
@@ -184,6 +178,7 @@ int Program::complete(const QStringList &before, QStringList words)
 
 int Program::execute(const Command &command, const Arguments &arguments)
 {
+    m_session.setMayDraw(command.is(Command::paints));
     if (!command.is(Command::noCompany) && Companies::isPattern(m_session.chosenDatabase()))
         return executeForEach(command, arguments);
     Answer answer(m_options, writeOutput);

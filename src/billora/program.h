@@ -12,9 +12,6 @@
 /** The program: understands a command line, runs it, and tells how it went. */
 class Program {
 public:
-    /** Whether the command line draws documents, for which the application object must know fonts. */
-    static bool paints(const QStringList &words);
-
     /** @param words  behind the program's name. @return the exit code */
     int run(const QStringList &words);
 

@@ -229,7 +229,7 @@ bool Runner::runForProgram(const Command &command, Arguments arguments, const Ma
     own.isInteractive = false;
     own.agreesToAll = manners.agreesToAll || ValueReader::isTrue(arguments.text("yes"));
     arguments.remove("yes");
-    result.clear();
+    result.resize(0); // keeps its memory
     Answer answer(options, [&result](const QByteArray &bytes) {
         result += bytes;
         return true;

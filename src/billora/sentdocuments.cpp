@@ -4,6 +4,7 @@
 #include "journal.h"
 #include "jsonwriter.h"
 #include "task.h"
+#include "templatestringhelper.h"
 #include "texts.h"
 
 #include <QCryptographicHash>
@@ -94,7 +95,7 @@ bool SentDocuments::record(const QVector<ExportInvoices::File> &files, const QSt
         line.time = now;
         line.invoiceNumber = file.invoiceNumber;
         line.invoiceId = file.invoiceId;
-        line.kind = QLatin1String(journalKinds[qBound(0, file.typeCode, InvoicePrintModel::deliveryNote + 0)].word);
+        line.kind = QLatin1String(journalKinds[qBound(0, file.typeCode, TemplateStringHelper::deliveryNote + 0)].word);
         line.format = QLatin1String(formatWords[file.format]);
         line.file = shownName.isNull() ? file.fileName : shownName;
         line.sha256 = hex(hash.result());

@@ -1,6 +1,7 @@
 #include "session.h"
 
 #include "databaselist.h"
+#include "documentmaker.h"
 #include "failuresentences.h"
 #include "integer.h"
 #include "terminal.h"
@@ -70,6 +71,9 @@ bool Session::fail(Failure::Code code, const QStringList &arguments)
 
 void Session::note(Notice::Code code, const QStringList &arguments)
 {
+    // Connections to a server end with the application object that drawing puts another one in place of.
+    if (code == Notice::openingPostgresql && m_mayDraw)
+        DocumentMaker::get(*this, true);
     if (m_isVerbose)
         Terminal::writeError(FailureSentences::text(code, arguments));
 }

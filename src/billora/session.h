@@ -25,6 +25,8 @@ public:
     /** @param settingsFile  empty for the user's own. @param database  a number of the list, a file, or empty */
     void choose(const QString &settingsFile, const QString &database);
     void setVerbose(bool verbose) { m_isVerbose = verbose; }
+    /** What is run may draw documents. */
+    void setMayDraw(bool mayDraw) { m_mayDraw = mayDraw; }
 
     /** Both live as long as the session. */
     UseCaseContext &context() { return *m_context; }
@@ -57,6 +59,7 @@ private:
     QString m_database;                        ///< as chosen; empty: the last used
     QVariantMap m_entry;                       ///< of openCompany(); empty: the chosen company
     bool m_isVerbose = false;                  ///< notices are told
+    bool m_mayDraw = false;                    ///< see setMayDraw()
 };
 
 #endif

@@ -168,17 +168,22 @@ void appendInteger(ByteGatherer &target, long long number)
     target.append(at, static_cast<int>(end - at));
 }
 
-/** Sums are most of all numbers: two decimals, quoted. */
-void appendCents(ByteGatherer &target, long long cents)
+/** As plainDecimal(), quoted: most of all numbers are of this kind. */
+void appendDecimal(ByteGatherer &target, long long number, int digits, int minDigits)
 {
     char buffer[longestNumber];
     char *const end = buffer + sizeof buffer;
     char *at = end;
     *--at = '"';
-    at = writeDigits(at, magnitude(cents) % 100, 2);
-    *--at = '.';
-    at = writeDigits(at, magnitude(cents) / 100, 1);
-    if (cents < 0)
+    unsigned long long rest = magnitude(number);
+    for (; digits > minDigits && rest % 10 == 0; --digits)
+        rest /= 10;
+    for (int i = 0; i < digits; ++i, rest /= 10)
+        *--at = static_cast<char>('0' + rest % 10);
+    if (digits > 0)
+        *--at = '.';
+    at = writeDigits(at, rest, 1);
+    if (number < 0)
         *--at = '-';
     *--at = '"';
     target.append(at, static_cast<int>(end - at));
@@ -204,10 +209,8 @@ void ValueWriter::appendJson(ByteGatherer &target, const Field &field, const Val
         appendJsonString(target, value.toText());
         return;
     case Value::number:
-        if (field.type == ValueType::money)
-            appendCents(target, value.toNumber());
-        else if (isDecimal(field.type))
-            target.append('"' + plain(field, value).toLatin1() + '"');
+        if (isDecimal(field.type))
+            appendDecimal(target, value.toNumber(), fractionDigits(field.type), minFractionDigits(field.type));
         else
             appendInteger(target, value.toNumber());
         return;

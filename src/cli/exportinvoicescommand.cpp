@@ -4,6 +4,7 @@
 #include "parameterlist.h"
 #include "progressline.h"
 #include "sentences.h"
+#include "templatestringhelper.h"
 
 #include <QDir>
 
@@ -47,9 +48,9 @@ bool type(CommandContext &, const QString &, const QString &value, Request &requ
         const char *name;
         int printType;
     } types[] = {
-        {"reminder", InvoicePrintModel::reminder},
-        {"receipt", InvoicePrintModel::receipt},
-        {"deliveryNote", InvoicePrintModel::deliveryNote},
+        {"reminder", TemplateStringHelper::reminder},
+        {"receipt", TemplateStringHelper::receipt},
+        {"deliveryNote", TemplateStringHelper::deliveryNote},
     };
     for (const auto &known : types) {
         if (value == QLatin1String(known.name))

@@ -1,6 +1,7 @@
 #ifndef PROGRAMMAIN_H
 #define PROGRAMMAIN_H
 
+#include "documents.h"
 #include "programstart.h"
 
 #include <QApplication>
@@ -15,6 +16,7 @@ template <class Interface> int programMain(int argc, char *argv[])
     // Never deleted: its destructor would load the font configuration only to free it, a third of a short run.
     new QApplication(programNameOnly, argv);
     ProgramStart::nameApplication();
+    DocumentMaker::setSource({[](QString &) { return billoraDocuments(); }, nullptr});
     Interface commands(qApp);
     commands.setArguments(ProgramStart::arguments(argc, argv));
     QTimer::singleShot(0, &commands, &Interface::start);

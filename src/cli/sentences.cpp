@@ -45,6 +45,7 @@ constexpr FailureSentence failures[] = {
     {Failure::invoiceNumberUnknown, badData, TEXT("Laskua ei löytynyt numerolla %1")},
     {Failure::invoiceItemIdUnknown, badData, TEXT("Laskuriviä ei löytynyt tunnisteella %1")},
     {Failure::paymentIdUnknown, badData, TEXT("Maksusuoritusta ei löytynyt tunnisteella %1")},
+    {Failure::documentsUnavailable, ExitCode::databaseFailure, TEXT("Asiakirjoja tekevää osaa ei voi ladata: %1")},
     {Failure::layoutUnknown, ExitCode::badCommandLine, TEXT("Laskupohjaa ei löytynyt nimellä %1")},
     {Failure::scriptUnreadable, ExitCode::databaseFailure, TEXT("Tulostuspohjaa ei voi lukea")},
     {Failure::scriptException, badData, TEXT("%1 (rivi %2)")},

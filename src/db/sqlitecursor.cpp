@@ -27,10 +27,10 @@ QString storedText(sqlite3_stmt *statement, int column)
     return hasMark || text.contains(replacement) ? utf16Text(statement, column) : text;
 }
 
-int bindText(sqlite3_stmt *statement, int mark, const QString &text)
+int bindText(sqlite3_stmt *statement, int mark, const QString &text, sqlite3_destructor_type owner)
 {
     const int size = text.size() * static_cast<int>(sizeof(QChar));
-    return sqlite3_bind_text16(statement, mark, text.constData(), size, SQLITE_TRANSIENT);
+    return sqlite3_bind_text16(statement, mark, text.constData(), size, owner);
 }
 
 } // namespace
@@ -85,13 +85,13 @@ bool SQLiteCursor::bind(const QVariantList &values)
         } else if (value.userType() == QMetaType::LongLong) {
             result = sqlite3_bind_int64(m_statement, mark, value.toLongLong());
         } else if (value.userType() == QMetaType::QString) {
-            result = bindText(m_statement, mark, *static_cast<const QString *>(value.constData()));
+            result = bindText(m_statement, mark, *static_cast<const QString *>(value.constData()), SQLITE_STATIC);
         } else if (value.userType() == QMetaType::QDate) {
             QString text;
             IsoDate::appendTo(text, value.toDate());
-            result = bindText(m_statement, mark, text.isEmpty() ? value.toString() : text);
+            result = bindText(m_statement, mark, text.isEmpty() ? value.toString() : text, SQLITE_TRANSIENT);
         } else {
-            result = bindText(m_statement, mark, value.toString());
+            result = bindText(m_statement, mark, value.toString(), SQLITE_TRANSIENT);
         }
         isBound = isBound && result == SQLITE_OK;
     }
@@ -115,7 +115,8 @@ bool SQLiteCursor::execute(const QString &sql, const QVariantList &values)
     finish(); // what was not read of the statement before must not keep its table locked
     m_error.clear();
     m_statement = prepared(sql);
-    if (!m_statement || !bind(values) || !step())
+    m_values = values;
+    if (!m_statement || !bind(m_values) || !step())
         return false;
     m_isFirst = m_isOnRow;
     return true;

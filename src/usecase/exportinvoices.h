@@ -3,7 +3,6 @@
 
 #include "einvoicerules.h"
 #include "invoicecriteria.h"
-#include "invoiceprintmodel.h"
 #include "printformat.h"
 
 #include <QVector>
@@ -23,7 +22,7 @@ struct Request {
     std::optional<PrintFormat> format;          ///< else by the file name
     QString csvDelimiter = QStringLiteral(","); ///< one character
     bool writeSoap = false;                     ///< Finvoice in its transport envelope
-    int printType = InvoicePrintModel::ownType; ///< an InvoicePrintModel::PrintType
+    int printType = 0;                          ///< a TemplateStringHelper::Kind; 0: each invoice's own type
     bool makesFolders = false;                  ///< of the file names
     bool isTrial = false;                       ///< tells the files and writes none
     /** Called after each document. */

@@ -11,7 +11,7 @@ namespace Failure {
 enum Code {
     // The database
     database,               ///< the reason in the database's own words
-    connectionLost, ///< where the backend gives no text of its own
+    connectionLost,         ///< where the backend gives no text of its own
     databaseLocked,         ///< the same: another program holds it
     databaseNumberTaken,    ///< number in the list
     databaseNumberUnknown,  ///< number in the list
@@ -38,6 +38,7 @@ enum Code {
     paymentIdUnknown,
 
     // Documents
+    documentsUnavailable,  ///< reason: the part that makes them cannot be loaded
     layoutUnknown,         ///< name
     scriptUnreadable,      ///< the file or resource of a script cannot be opened
     scriptException,       ///< text, line

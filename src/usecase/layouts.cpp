@@ -1,11 +1,11 @@
 #include "layouts.h"
 
+#include "documentmaker.h"
 #include "query.h"
 #include "settings.h"
 #include "usecasecontext.h"
 
 #include <QFile>
-#include <QScriptEngine>
 
 namespace {
 
@@ -51,15 +51,17 @@ bool Layouts::readSource(UseCaseContext &context, const QString &fileName, QStri
     if (!isOpen)
         return context.listener.fail(Failure::fileUnreadable, {fileName, file.errorString()});
     source = QString::fromUtf8(file.readAll());
-    const QScriptSyntaxCheckResult syntax = QScriptEngine::checkSyntax(source);
-    if (syntax.state() == QScriptSyntaxCheckResult::Valid)
-        return true;
-    const QString reason = syntax.errorMessage().isEmpty() ? QStringLiteral("SyntaxError") : syntax.errorMessage();
-    return context.listener.fail(Failure::scriptException, {reason, QString::number(syntax.errorLineNumber())});
+    DocumentMaker *maker = DocumentMaker::get(context.listener, false);
+    QString reason;
+    int line = 0;
+    return maker && (maker->isScript(source, reason, line) ||
+                     context.listener.fail(Failure::scriptException, {reason, QString::number(line)}));
 }
 
 bool Layouts::readBuiltIn(UseCaseContext &context, int index, QString &source)
 {
+    if (!DocumentMaker::get(context.listener, false)) // has it among its resources
+        return false;
     QFile file(Registry::builtInPrintScriptFilenames().at(index));
     if (!file.open(QIODevice::ReadOnly))
         return context.listener.fail(Failure::fileUnreadable, {file.fileName(), file.errorString()});

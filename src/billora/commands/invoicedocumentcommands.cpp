@@ -11,6 +11,7 @@
 #include "selection.h"
 #include "sentdocuments.h"
 #include "task.h"
+#include "templatestringhelper.h"
 #include "terminal.h"
 
 #include <QDir>
@@ -26,7 +27,8 @@ constexpr Choice documentKinds[] = {{"reminder", TEXT("maksumuistutus")},
                                     {"receipt", TEXT("kuitti")},
                                     {"delivery-note", TEXT("lähetyslista")},
                                     {nullptr, nullptr}};
-constexpr int printTypes[] = {InvoicePrintModel::reminder, InvoicePrintModel::receipt, InvoicePrintModel::deliveryNote};
+constexpr int printTypes[] = {TemplateStringHelper::reminder, TemplateStringHelper::receipt,
+                              TemplateStringHelper::deliveryNote};
 
 constexpr Choice checkFormats[] = {
     {"finvoice3", TEXT("Finvoice 3.0, EN 16931")}, {"peppol", TEXT("Peppol BIS Billing 3")}, {nullptr, nullptr}};

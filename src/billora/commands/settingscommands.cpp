@@ -1,5 +1,6 @@
 #include "commandgroups.h"
 
+#include "documentmaker.h"
 #include "editorfile.h"
 #include "query.h"
 #include "records.h"
@@ -13,7 +14,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QImage>
 #include <QPair>
 #include <QTemporaryFile>
 
@@ -21,18 +21,26 @@ namespace {
 
 const QLatin1String logoKey("logo");
 
-/** The logo is told by its size in pixels. */
-QString logoText(const Settings &settings)
+/** Pixels; not valid for what is no image. */
+QSize imageSize(Task &task, const QByteArray &bytes)
 {
-    const QImage image = QImage::fromData(settings.sellerLogo);
-    return image.isNull() ? QStringLiteral("") : QStringLiteral("%1x%2").arg(image.width()).arg(image.height());
+    DocumentMaker *maker = bytes.isEmpty() ? nullptr : DocumentMaker::get(task.session, false);
+    return maker ? maker->imageSize(bytes) : QSize();
 }
 
-SettingRecord recordOf(const Settings &settings, const QString &key)
+/** The logo is told by its size. */
+QString logoText(Task &task, const Settings &settings)
+{
+    const QSize size = imageSize(task, settings.sellerLogo);
+    return size.isValid() ? QStringLiteral("%1x%2").arg(size.width()).arg(size.height()) : QStringLiteral("");
+}
+
+SettingRecord recordOf(Task &task, const Settings &settings, const QString &key)
 {
     SettingRecord record;
     record.key = key;
-    record.value = key == logoKey ? logoText(settings) : SettingTexts::shown(key, SettingsKeys::value(settings, key));
+    record.value =
+        key == logoKey ? logoText(task, settings) : SettingTexts::shown(key, SettingsKeys::value(settings, key));
     if (record.value.isNull())
         record.value = QStringLiteral("");
     record.type = SettingTexts::type(key);
@@ -50,11 +58,11 @@ bool answer(Task &task, const Settings &settings, const QStringList &keys)
     if (!task.answer.beginList(settingTable, task.session))
         return false;
     for (const QString &key : keys) {
-        const SettingRecord record = recordOf(settings, key);
+        const SettingRecord record = recordOf(task, settings, key);
         task.answer.add(&record);
     }
     task.answer.endList();
-    return true;
+    return !task.session.problem().isSet();
 }
 
 constexpr Option listOptions[] = {
@@ -90,7 +98,7 @@ bool get(Task &task)
     QString key;
     if (!settings || !SettingTexts::resolve(task, task.arguments.text("key"), key))
         return false;
-    const SettingRecord record = recordOf(*settings, key);
+    const SettingRecord record = recordOf(task, *settings, key);
     if (!task.answer.wantsSentences())
         return task.answer.show(settingTable, &record, task.session);
     task.answer.line(record.value);
@@ -107,7 +115,7 @@ bool storeLogo(Task &task, const QString &fileName, Settings &settings)
     if (!file.open(QIODevice::ReadOnly))
         return task.session.fail(Failure::fileUnreadable, {fileName, file.errorString()});
     const QByteArray bytes = file.readAll();
-    if (QImage::fromData(bytes).isNull())
+    if (!imageSize(task, bytes).isValid())
         return task.reader.failValue(logoKey, fileName, text(TEXT("tiedosto ei ole kuva")));
     settings.sellerLogo = bytes;
     return true;
@@ -151,7 +159,7 @@ bool save(Task &task, const QVector<Change> &changes)
     if (!task.answer.wantsSentences())
         return answer(task, settings, keys);
     for (const QString &key : qAsConst(keys))
-        task.answer.line(key + QLatin1String(" = ") + recordOf(settings, key).value);
+        task.answer.line(key + QLatin1String(" = ") + recordOf(task, settings, key).value);
     return true;
 }
 
@@ -207,7 +215,7 @@ bool edit(Task &task)
     const QStringList keys = SettingsKeys::allKeys();
     for (const QString &key : keys)
         original.append((key + QLatin1String(": ") +
-                         QString(recordOf(*settings, key).value).replace(QLatin1Char('\n'), QLatin1String("\\n")))
+                         QString(recordOf(task, *settings, key).value).replace(QLatin1Char('\n'), QLatin1String("\\n")))
                             .trimmed());
     QTemporaryFile place(QDir::tempPath() + QLatin1String("/billora-XXXXXX.txt"));
     if (!place.open())
