@@ -237,7 +237,10 @@ bool Runner::runForProgram(const Command &command, Arguments arguments, const Ma
     if (!run(command, arguments, answer, own, key, exitCode))
         return false;
     answer.flush();
-    result.resize(static_cast<int>(std::remove(result.begin(), result.end(), '\n') - result.begin()));
+    while (result.endsWith('\n'))
+        result.chop(1);
+    if (result.contains('\n'))
+        result.replace('\n', QByteArray());
     if (result.isEmpty())
         result = "null";
     return true;

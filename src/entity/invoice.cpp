@@ -2,8 +2,6 @@
 
 #include "bankaccount.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 #include <iterator>
 
@@ -17,6 +15,15 @@ constexpr int spyLength = 20;
 constexpr int finnishIbanLength = 18;
 
 QString padded(const QString &text, int length) { return text.rightJustified(length, QLatin1Char('0')); }
+
+/** The first run of digits, empty for none. */
+QString firstDigits(const QString &text)
+{
+    const auto isDigit = [](QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); };
+    const auto first = std::find_if(text.begin(), text.end(), isDigit);
+    const auto end = std::find_if_not(first, text.end(), isDigit);
+    return QString(first, static_cast<int>(end - first));
+}
 
 bool isRf(const QString &reference) { return reference.startsWith(QLatin1String("RF")); }
 
@@ -70,18 +77,15 @@ QString Invoice::referenceNumberToRf(const QString &reference)
 
 QDate Invoice::calculateDueDate() const
 {
-    static const QRegularExpression number(QStringLiteral("(\\d+)"));
-    const QRegularExpressionMatch match = number.match(paymentTerms);
     bool ok = false;
-    const int days = match.captured(1).toInt(&ok);
+    const int days = firstDigits(paymentTerms).toInt(&ok);
     const QDate due = ok ? date.addDays(days) : QDate();
     return due.year() <= lastYear ? due : QDate();
 }
 
 bool Invoice::canBeDue() const
 {
-    static const QRegularExpression number(QStringLiteral("\\d"));
-    return !number.match(paymentTerms).hasMatch() || !date.isValid() || calculateDueDate().isValid();
+    return firstDigits(paymentTerms).isEmpty() || !date.isValid() || calculateDueDate().isValid();
 }
 
 QString Invoice::barcode(const BankAccount *account, int version) const
