@@ -23,7 +23,6 @@ struct BankAccountKind {
     };
 
     static constexpr CachedList list = CachedList::bankAccounts;
-    static constexpr auto store = &Registry::storeBankAccount;
     static constexpr auto print = &RecordPrinter::printBankAccount;
 
     static bool findById(CommandContext &context, const QString &key, const QString &value, State &state)
@@ -102,8 +101,6 @@ struct BankAccountKind {
     {
         return RecordEditing::remove(context, account);
     }
-
-    static void forget(Registry &registry, const BankAccount &removed) { registry.storeBankAccount(removed); }
 };
 
 } // namespace

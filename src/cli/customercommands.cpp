@@ -26,7 +26,6 @@ struct CustomerKind {
     };
 
     static constexpr CachedList list = CachedList::customers;
-    static constexpr auto store = &Registry::storeCustomer;
     static constexpr auto print = &RecordPrinter::printCustomer;
 
     static bool findById(CommandContext &context, const QString &key, const QString &value, State &state)
@@ -131,8 +130,6 @@ struct CustomerKind {
     {
         return RecordEditing::remove(context, customer);
     }
-
-    static void forget(Registry &registry, const Customer &removed) { registry.storeCustomer(removed); }
 };
 
 } // namespace

@@ -14,13 +14,12 @@
  * differs is told by a Kind:
  *
  *     using Record, State (with members `record` and `found`), Search
- *     list, store                        the cached list, and Registry's operation
+ *     list                               the cached list
  *     parameters, searchKeys             the tables of keys
  *     records(registry), matches(record, search), print(response, record)
  *     lookupMissing(), requiredMissing(record), savingMessage(record)
  *     complete(context, record)          fills what was not given
  *     removeRecord(context, record)      marks it removed or deletes it
- *     forget(registry, record)           takes it out of the cached list
  */
 
 /**
@@ -36,7 +35,7 @@ template <class Kind> void saveListRecord(CommandContext &context, QStringList &
     if (!transaction.hasBegun())
         return;
     if (mode == SaveCommandMode::edit)
-        context.session.invalidate(Kind::list); // another program's changes to the record must not be undone
+        context.session.recheck(Kind::list); // another program's changes to the record must not be undone
     typename Kind::State state;
     if (!applyParameters(context, words, Kind::parameters, mode, state))
         return;
@@ -53,8 +52,6 @@ template <class Kind> void saveListRecord(CommandContext &context, QStringList &
     context.diagnostics.printDebugMessage(Kind::savingMessage(record));
     if (!RecordEditing::save(context, record) || !transaction.commit())
         return;
-    (context.session.registry().*Kind::store)(record);
-    context.session.invalidate(Kind::list);
     context.response.startResponse(QStringLiteral("OK"));
     Kind::print(context.response, record);
     context.response.endResponse();
@@ -69,7 +66,7 @@ template <class Kind> bool removeListRecords(CommandContext &context, const type
     WriteTransaction transaction(context.session);
     if (!transaction.hasBegun())
         return false;
-    context.session.invalidate(Kind::list);
+    context.session.recheck(Kind::list);
     if (!context.session.fetch(Kind::list))
         return false;
     QVector<typename Kind::Record> matching;
@@ -83,9 +80,6 @@ template <class Kind> bool removeListRecords(CommandContext &context, const type
     }
     if (!transaction.commit())
         return false;
-    for (const auto &record : matching)
-        Kind::forget(context.session.registry(), record);
-    context.session.invalidate(Kind::list);
     count = matching.size();
     return true;
 }

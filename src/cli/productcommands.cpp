@@ -25,7 +25,6 @@ struct ProductKind {
     };
 
     static constexpr CachedList list = CachedList::products;
-    static constexpr auto store = &Registry::storeProduct;
     static constexpr auto print = &RecordPrinter::printProduct;
 
     static bool findById(CommandContext &context, const QString &key, const QString &value, State &state)
@@ -122,8 +121,6 @@ struct ProductKind {
     {
         return RecordEditing::remove(context, product);
     }
-
-    static void forget(Registry &registry, const Product &removed) { registry.forgetProduct(removed.id); }
 };
 
 } // namespace

@@ -268,7 +268,7 @@ void DatabaseSession::setEnclosed(bool isEnclosed)
     m_productsByNumber.clear();
 }
 
-void DatabaseSession::invalidate(CachedList list)
+void DatabaseSession::recheck(CachedList list)
 {
     m_lists[static_cast<int>(list)].fetched = false;
     if (list == CachedList::customers)
@@ -277,13 +277,35 @@ void DatabaseSession::invalidate(CachedList list)
         m_productsByNumber.clear();
 }
 
-void DatabaseSession::invalidateIfChanged()
+void DatabaseSession::setStored(CachedList list)
 {
-    if (m_database->foreignChanges() == -1)
-        return; // the backend cannot tell
+    recheck(list);
+    m_lists[static_cast<int>(list)].isWritten = true;
+}
+
+void DatabaseSession::invalidate(CachedList list)
+{
+    setStored(list);
+    m_lists[static_cast<int>(list)].version = -1;
+}
+
+void DatabaseSession::takeBackLists()
+{
     for (int i = 0; i < listCount; ++i) {
-        if (i != static_cast<int>(CachedList::printScripts))
-            m_lists[i].fetched = false;
+        if (m_lists[i].isWritten)
+            invalidate(static_cast<CachedList>(i));
+        m_lists[i].isWritten = false;
+    }
+}
+
+void DatabaseSession::recheckAll()
+{
+    const bool canTell = m_database->foreignChanges() != -1;
+    for (int i = 0; i < listCount; ++i) {
+        m_lists[i].isWritten = false;
+        // The stored print scripts are read once per run.
+        if (canTell && i != static_cast<int>(CachedList::printScripts))
+            recheck(static_cast<CachedList>(i));
     }
 }
 

@@ -68,13 +68,16 @@ public:
      */
     [[nodiscard]] bool findByNumber(int number, QVector<Customer> &found);
     [[nodiscard]] bool findByNumber(const QString &number, QVector<Product> &found);
-    /**
-     * A record of the list was saved: the list is read again when next needed, unless the registry was told of the
-     * change and nobody else has changed the database.
-     */
+    /** The list is read again when next needed, if others have changed the database. */
+    void recheck(CachedList list);
+    /** The same of all lists, as a transaction begins: what others have changed must not be overwritten. */
+    void recheckAll();
+    /** A record of the list was written, and the registry holds it too. */
+    void setStored(CachedList list);
+    /** Something of the list was written that the registry was not told: it is read again when next needed. */
     void invalidate(CachedList list);
-    /** Before a list is changed: what others have changed since it was read must not be overwritten. */
-    void invalidateIfChanged();
+    /** What was written since the transaction began is taken back: so are the lists. */
+    void takeBackLists();
 
     /** Whether a database that is missing is made when it is opened. */
     void setCreating(bool isCreating) { m_isCreating = isCreating; }
@@ -111,6 +114,7 @@ private:
     struct ListState {
         bool fetched = false;   ///< need not be read again
         long long version = -1; ///< Database::foreignChanges() when it was read; -1: not read or not known
+        bool isWritten = false; ///< since the transaction began
     };
 
     /** Place in the file's list, -1 for none; a number below 1 is the last used, else the first. */

@@ -18,15 +18,26 @@ namespace {
 
 using InvoiceTotals::Outcome;
 
+/** Saves a record of a cached list, and has the list hold it. */
 template <class Record>
-bool saveListed(UseCaseContext &context, Record &record, bool (Query::*save)(Record *), CachedList list,
-                int LastSavedIds::*lastSaved)
+bool saveListed(UseCaseContext &context, Record &record, bool (Query::*save)(Record *),
+                void (Registry::*store)(const Record &), CachedList list)
 {
     if (!(context.session.query()->*save)(&record))
         return context.session.failQuery();
-    context.session.invalidate(list);
-    context.lastSaved.*lastSaved = record.id;
+    (context.session.registry().*store)(record);
+    context.session.setStored(list);
     return true;
+}
+
+bool saveListed(UseCaseContext &context, BankAccount &account)
+{
+    return saveListed(context, account, &Query::saveBankAccount, &Registry::storeBankAccount, CachedList::bankAccounts);
+}
+
+bool saveListed(UseCaseContext &context, Customer &customer)
+{
+    return saveListed(context, customer, &Query::saveCustomer, &Registry::storeCustomer, CachedList::customers);
 }
 
 /** A row's total must fit its 32 bits of cents, and quantity times price 64, which a large discount may hide. */
@@ -84,18 +95,26 @@ bool RecordEditing::giveNumber(UseCaseContext &context, Customer &customer)
 
 bool RecordEditing::save(UseCaseContext &context, BankAccount &account)
 {
-    return saveListed(context, account, &Query::saveBankAccount, CachedList::bankAccounts, &LastSavedIds::bankAccount);
+    if (!saveListed(context, account))
+        return false;
+    context.lastSaved.bankAccount = account.id;
+    return true;
 }
 
 bool RecordEditing::save(UseCaseContext &context, Customer &customer)
 {
-    return giveNumber(context, customer) &&
-           saveListed(context, customer, &Query::saveCustomer, CachedList::customers, &LastSavedIds::customer);
+    if (!giveNumber(context, customer) || !saveListed(context, customer))
+        return false;
+    context.lastSaved.customer = customer.id;
+    return true;
 }
 
 bool RecordEditing::save(UseCaseContext &context, Product &product)
 {
-    return saveListed(context, product, &Query::saveProduct, CachedList::products, &LastSavedIds::product);
+    if (!saveListed(context, product, &Query::saveProduct, &Registry::storeProduct, CachedList::products))
+        return false;
+    context.lastSaved.product = product.id;
+    return true;
 }
 
 bool RecordEditing::addRows(UseCaseContext &context, int invoiceId, QVector<InvoiceItem> &rows)
@@ -168,21 +187,22 @@ Outcome RecordEditing::savePayment(UseCaseContext &context, Payment &payment, in
 bool RecordEditing::remove(UseCaseContext &context, BankAccount &account)
 {
     account.deleted = true;
-    context.session.invalidate(CachedList::bankAccounts);
-    return context.session.query()->saveBankAccount(&account) || context.session.failQuery();
+    return saveListed(context, account);
 }
 
 bool RecordEditing::remove(UseCaseContext &context, Customer &customer)
 {
     customer.deleted = true;
-    context.session.invalidate(CachedList::customers);
-    return context.session.query()->saveCustomer(&customer) || context.session.failQuery();
+    return saveListed(context, customer);
 }
 
 bool RecordEditing::remove(UseCaseContext &context, const Product &product)
 {
-    context.session.invalidate(CachedList::products);
-    return context.session.query()->deleteProduct(product.id) || context.session.failQuery();
+    if (!context.session.query()->deleteProduct(product.id))
+        return context.session.failQuery();
+    context.session.registry().forgetProduct(product.id);
+    context.session.setStored(CachedList::products);
+    return true;
 }
 
 bool RecordEditing::removeInvoice(UseCaseContext &context, int id)

@@ -10,7 +10,7 @@ WriteTransaction::WriteTransaction(DatabaseSession &session)
     if (m_isInner)
         return;
     if (m_open)
-        m_session.invalidateIfChanged();
+        m_session.recheckAll();
     else
         m_session.failDatabase();
 }
@@ -20,6 +20,7 @@ WriteTransaction::~WriteTransaction()
     if (m_open && !m_isInner) {
         m_session.query()->finish();
         m_session.database()->rollback();
+        m_session.takeBackLists();
     }
 }
 
@@ -29,6 +30,8 @@ bool WriteTransaction::commit()
     if (m_isInner)
         return true;
     m_open = m_session.isTrial() ? !m_session.database()->rollback() : !m_session.database()->commit();
+    if (m_session.isTrial())
+        m_session.takeBackLists();
     if (!m_open)
         return true;
     return m_session.failDatabase();
