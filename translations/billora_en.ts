@@ -468,6 +468,10 @@
         <translation>the delimiter is one character</translation>
     </message>
     <message>
+        <source>se ei ole tavallinen tiedosto</source>
+        <translation>it is no regular file</translation>
+    </message>
+    <message>
         <source>%1 (rivi %2)</source>
         <translation>%1 (line %2)</translation>
     </message>
@@ -820,6 +824,10 @@
         <translation>commands are read from standard input, a JSON object a line</translation>
     </message>
     <message>
+        <source>valinnat --each ja --key sulkevat toisensa pois</source>
+        <translation>the options --each and --key exclude each other</translation>
+    </message>
+    <message>
         <source>komennot JSON-riveinä vakiosyötteestä, yhtenä tapahtumana</source>
         <translation>commands as JSON lines on standard input, one transaction</translation>
     </message>
@@ -840,8 +848,8 @@
         <translation>help on a command or topic</translation>
     </message>
     <message>
-        <source>tiedoston nimi; sen pääte on muoto, .pdf tai .csv</source>
-        <translation>name of the file; its suffix is the format, .pdf or .csv</translation>
+        <source>tiedoston nimi; sen pääte on muoto, .pdf tai .csv; - on vakiotuloste</source>
+        <translation>name of the file; its suffix is the format, .pdf or .csv; - is standard output</translation>
     </message>
     <message>
         <source>sarakkeet, pilkuin erotettuina</source>
@@ -2294,6 +2302,10 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
         <translation>the name is there twice: %1</translation>
     </message>
     <message>
+        <source>puolikas merkki: %1</source>
+        <translation>half a character: %1</translation>
+    </message>
+    <message>
         <source>%1 ei voi olla tätä tyyppiä</source>
         <translation>%1 cannot be of this type</translation>
     </message>
@@ -2398,6 +2410,10 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
         <translation>option --quiet does not go with a format</translation>
     </message>
     <message>
+        <source>vastausta ei voi kirjoittaa: %1</source>
+        <translation>the answer cannot be written: %1</translation>
+    </message>
+    <message>
         <source>yritys %1: </source>
         <translation>company %1: </translation>
     </message>
@@ -2476,6 +2492,10 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>Pyyntö on jo tehty.</source>
         <translation>The request was made before.</translation>
+    </message>
+    <message>
+        <source>vakiosyöte ja -tuloste ovat istunnon: %1</source>
+        <translation>standard input and output are the session's: %1</translation>
     </message>
     <message>
         <source>laskun numero tai väli, kuten 1001 tai 1010-1020: %1</source>
@@ -2906,8 +2926,28 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
         <translation>The invoice's total is too large</translation>
     </message>
     <message>
+        <source>Tulostuspohja vaati liikaa muistia, aikaa tai sisäkkäisiä kutsuja</source>
+        <translation>The layout asked for too much memory, time or depth of calls</translation>
+    </message>
+    <message>
         <source>Varmuuskopio tehdään vain SQLite-tietokannasta; käytä ohjelmaa pg_dump</source>
         <translation>Backups are made of SQLite databases only; use pg_dump</translation>
+    </message>
+    <message>
+        <source>Rivin laskua %1 ei ole</source>
+        <translation>There is no invoice %1 for the row</translation>
+    </message>
+    <message>
+        <source>Suorituksen laskua %1 ei ole</source>
+        <translation>There is no invoice %1 for the payment</translation>
+    </message>
+    <message>
+        <source>Laskun asiakasta %1 ei ole</source>
+        <translation>There is no customer %1 for the invoice</translation>
+    </message>
+    <message>
+        <source>Laskunumero %1 on käytössä useammin kuin kerran</source>
+        <translation>The invoice number %1 is used more than once</translation>
     </message>
     <message>
         <source>Sarake %1 puuttuu</source>

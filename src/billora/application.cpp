@@ -22,7 +22,9 @@ void *openModule()
     const QString path =
         QCoreApplication::applicationDirPath() + QLatin1String("/../lib/billora/") + QLatin1String(name);
     void *module = ::dlopen(QFile::encodeName(path).constData(), RTLD_NOW);
-    return module ? module : ::dlopen(name, RTLD_NOW); // where the program was built, wherever it was copied to
+    if (!module && !QFile::exists(path))
+        module = ::dlopen(name, RTLD_NOW); // where the program was built, wherever it was copied to
+    return module;
 }
 
 DocumentMaker *loadDocuments(QString &reason)

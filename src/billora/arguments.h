@@ -44,6 +44,7 @@ public:
     QVector<Arguments> rows;
     bool hasRows = false; ///< the rows were given, perhaps none
     QStringList booleans; ///< names that were given as true or false of JSON
+    QStringList lists;    ///< names that were given as a list of JSON, perhaps an empty one
     QStringList nulls;    ///< names that were given as null: their texts are empty
 
 private:

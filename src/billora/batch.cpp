@@ -144,8 +144,11 @@ int Batch::runTogether()
     QByteArray line, result;
     DatabaseSession &database = m_session.context().session;
     WriteTransaction transaction(database);
-    if (!transaction.hasBegun())
-        return writeFailure(0), m_session.problem().exitCode();
+    if (!transaction.hasBegun()) {
+        writeFailure(0);
+        writeEnd(false, 0, 0);
+        return m_session.problem().exitCode();
+    }
     QVector<QByteArray> lines;
     QString digest;
     if (!m_options.key.isEmpty()) { // the whole of it is the request

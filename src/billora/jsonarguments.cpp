@@ -1,11 +1,14 @@
 #include "jsonarguments.h"
 
+#include "localetext.h"
 #include "problem.h"
 #include "texts.h"
 
 #define RAPIDJSON_HAS_STDSTRING 0
 #include <rapidjson/document.h>
 #include <rapidjson/error/en.h>
+
+#include <cstring>
 
 namespace {
 
@@ -25,7 +28,21 @@ bool failJson(const ValueReader &reader, const QString &reason)
 
 QString textOf(const Json &value)
 {
-    return QString::fromUtf8(value.GetString(), static_cast<int>(value.GetStringLength()));
+    return LocaleText::fromUtf8(value.GetString(), static_cast<int>(value.GetStringLength()));
+}
+
+/** Half of a surrogate pair is no character, and is let through by the library as three bytes. */
+bool hasHalfCharacter(const Json &value)
+{
+    const char *at = value.GetString();
+    const char *const end = at + value.GetStringLength();
+    constexpr char first = '\xED';
+    while ((at = static_cast<const char *>(std::memchr(at, first, static_cast<std::size_t>(end - at))))) {
+        if (at + 1 < end && static_cast<unsigned char>(at[1]) >= 0xA0)
+            return true;
+        ++at;
+    }
+    return false;
 }
 
 /** Memory for a request of the usual size, lest each line asks for some; one request is read at a time. */
@@ -49,7 +66,12 @@ bool takeMember(const ValueReader &reader, const QString &name, const Json &valu
     const QString place = path + name;
     if (arguments.has(name) || (name == QLatin1String("rows") && arguments.hasRows))
         return failJson(reader, text(TEXT("nimi on kahdesti: %1")).arg(place));
+    const auto isText = [&](const Json &string, const QString &at) {
+        return !hasHalfCharacter(string) || failJson(reader, text(TEXT("puolikas merkki: %1")).arg(at));
+    };
     if (value.IsString()) {
+        if (!isText(value, place))
+            return false;
         arguments.add(name, textOf(value));
     } else if (value.IsBool()) {
         arguments.add(name, value.GetBool() ? QStringLiteral("true") : QStringLiteral("false"));
@@ -58,17 +80,22 @@ bool takeMember(const ValueReader &reader, const QString &name, const Json &valu
         arguments.add(name, QString());
         arguments.nulls.append(name);
     } else if (value.IsArray()) {
-        if (name == QLatin1String("rows"))
+        const bool isRows = path.isEmpty() && name == QLatin1String("rows");
+        if (isRows)
             arguments.hasRows = true;
+        else
+            arguments.lists.append(name);
         int index = 0;
         for (const Json &element : value.GetArray()) {
             const QString at = place + QLatin1Char('[') + QString::number(index++) + QLatin1Char(']');
-            if (element.IsObject() && path.isEmpty() && name == QLatin1String("rows")) {
+            if (element.IsObject() && isRows) {
                 Arguments row;
                 if (!takeObject(reader, element, at + QLatin1Char('.'), row))
                     return false;
                 arguments.rows.append(row);
-            } else if (element.IsString()) {
+            } else if (element.IsString() && !isRows) {
+                if (!isText(element, at))
+                    return false;
                 arguments.add(name, textOf(element));
             } else {
                 return reader.failValue(name, QString(), text(TEXT("%1 ei voi olla tätä tyyppiä")).arg(at));

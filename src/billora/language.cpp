@@ -15,10 +15,24 @@ namespace {
 Language::Code currentCode = Language::finnish;
 
 /** The classes below this program whose texts reach people; those of documents stay in the documents' language. */
-constexpr const char *layers[] = {"billora",        "Database",           "DatabaseCheck",       "SQLiteDatabase",
-                                  "Query",          "PostgreSQLDatabase", "PostgreSQLCursor",    "PaymentFileReader",
-                                  "PaymentMatcher", "ScriptedDocuments",  "ScriptRunner",        "PrintScriptManager",
-                                  "PdfOutput",      "ArchiveFile",        "XmlScriptEnvironment"};
+constexpr const char *layers[] = {"billora",
+                                  "Database",
+                                  "DatabaseCheck",
+                                  "SQLiteDatabase",
+                                  "Query",
+                                  "PostgreSQLDatabase",
+                                  "PostgreSQLCursor",
+                                  "CSVPaymentReader",
+                                  "CamtReader",
+                                  "IRPReader",
+                                  "PaymentFileReader",
+                                  "PaymentMatcher",
+                                  "ScriptedDocuments",
+                                  "ScriptRunner",
+                                  "PrintScriptManager",
+                                  "PdfOutput",
+                                  "ArchiveFile",
+                                  "XmlScriptEnvironment"};
 
 class LayerTranslator : public QTranslator {
 public:

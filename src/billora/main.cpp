@@ -7,5 +7,6 @@ int main(int argc, char *argv[])
     ProgramStart::prepare();
     const QStringList words = ProgramStart::arguments(argc, argv);
     Application::start(argv);
-    return Program().run(words);
+    Program program;
+    return program.exitCode(program.run(words));
 }

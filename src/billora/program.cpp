@@ -160,6 +160,17 @@ int Program::run(const QStringList &words)
     return execute(*line.command, line.arguments);
 }
 
+int Program::exitCode(int ofRun) const
+{
+    const QString reason = Terminal::outputError();
+    if (reason.isEmpty())
+        return ofRun;
+    Problem problem;
+    problem.code = Problem::file;
+    problem.message = text(TEXT("vastausta ei voi kirjoittaa: %1")).arg(reason);
+    return report(problem);
+}
+
 /** Answers a shell: whatever is wrong, it is only that nothing is known. */
 int Program::complete(const QStringList &before, QStringList words)
 {

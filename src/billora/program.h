@@ -14,6 +14,8 @@ class Program {
 public:
     /** @param words  behind the program's name. @return the exit code */
     int run(const QStringList &words);
+    /** The exit code of the process: an answer that was lost on its way is told, and counts. */
+    int exitCode(int ofRun) const;
 
 private:
     bool readGlobals(const CommandLine &line);    ///< the session has the problem when it is false

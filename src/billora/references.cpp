@@ -110,6 +110,10 @@ enum class IdWord { none, id, wrong };
 IdWord idOf(Task &task, const Kind &kind, const QString &option, const QString &word, int lastSaved,
             int (Query::*newest)(), int &id)
 {
+    if (word.trimmed().isEmpty()) { // would be part of every name
+        failUnknown(task, kind, option, word);
+        return IdWord::wrong;
+    }
     if (word == QLatin1String("@last")) {
         id = lastSaved > 0 ? lastSaved : (task.context().session.query()->*newest)();
         if (id > 0)
@@ -291,6 +295,8 @@ bool References::layout(Task &task, const QString &option, const QString &word, 
     QVector<PrintScript> list;
     if (!readAll<PrintScript>(task, query->fetchPrintScriptSummaries(), &Query::printScriptSummary, list))
         return false;
+    if (word.trimmed().isEmpty())
+        return failUnknown(task, layouts, option, word);
     const bool byId = word.startsWith(QLatin1String("id:"));
     bool isNumber = false;
     const int id = Integer::parse(byId ? word.mid(3) : word, isNumber);

@@ -162,8 +162,12 @@ bool Runner::checkNames(const Command &command, const Arguments &arguments)
         problem.message = text(TEXT("kenttää ei ole: %1")).arg(problem.option);
         return m_session.fail(problem);
     }
-    const QStringList names = arguments.names();
-    for (const QString &name : names) {
+    QStringList names = arguments.names();
+    for (const QString &name : arguments.lists) {
+        if (!names.contains(name)) // an empty one has no value
+            names.append(name);
+    }
+    for (const QString &name : qAsConst(names)) {
         const auto found = std::find_if(options.begin(), options.end(),
                                         [&name](const Option *option) { return name == QLatin1String(option->name); });
         Problem problem;
@@ -183,11 +187,26 @@ bool Runner::checkNames(const Command &command, const Arguments &arguments)
         }
         const bool isFlag = found != options.end() ? (*found)->type == ValueType::flag : name == QLatin1String("yes");
         const bool isList = found != options.end() && (*found)->is(Option::list);
-        const bool hasMany = arguments.texts(name.toLatin1().constData()).size() > 1;
-        if ((!arguments.booleans.contains(name) || isFlag) && (!hasMany || isList || name == QLatin1String("fields")))
+        const QStringList values = arguments.texts(name.toLatin1().constData());
+        const bool isBoolean = arguments.booleans.contains(name);
+        const bool isSeveral = arguments.lists.contains(name) && !isList && name != QLatin1String("fields");
+        // A text may stand for true or false, as the plain forms of answers write them.
+        const bool fitsFlag = isBoolean || arguments.nulls.contains(name) ||
+                              values == QStringList(QStringLiteral("true")) ||
+                              values == QStringList(QStringLiteral("false"));
+        if (isSeveral || (isFlag ? !fitsFlag : isBoolean)) {
+            problem.code = Problem::badValue;
+            problem.message = text(TEXT("%1 ei voi olla tätä tyyppiä")).arg(name);
+            return m_session.fail(problem);
+        }
+        // Standard input and output are the requests' and the answers' own.
+        const bool namesStream = found != options.end() && values.contains(QStringLiteral("-")) &&
+                                 ((*found)->type == ValueType::file || (*found)->type == ValueType::invoices);
+        if (!namesStream)
             continue;
-        problem.code = Problem::badValue;
-        problem.message = text(TEXT("%1 ei voi olla tätä tyyppiä")).arg(name);
+        problem.code = Problem::conflict;
+        problem.value = QStringLiteral("-");
+        problem.message = text(TEXT("vakiosyöte ja -tuloste ovat istunnon: %1")).arg(name);
         return m_session.fail(problem);
     }
     for (const Arguments &row : arguments.rows) {

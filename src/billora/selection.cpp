@@ -36,7 +36,7 @@ bool readWord(Task &task, const char *option, const QString &word, InvoiceSelect
         range.from = Integer::parse(from, hasFrom);
     if (!hasTo)
         range.to = Integer::parse(to, hasTo);
-    if (!hasFrom || !hasTo || word == QLatin1String("-") || from.startsWith(QLatin1Char('+')))
+    if (!hasFrom || !hasTo || word.isEmpty() || word == QLatin1String("-") || from.startsWith(QLatin1Char('+')))
         return task.reader.failValue(QLatin1String(option), word,
                                      text(TEXT("laskun numero tai väli, kuten 1001 tai 1010-1020: %1")).arg(word));
     if (range.from >= 0 && range.to >= 0 && range.from > range.to)

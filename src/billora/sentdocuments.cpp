@@ -86,8 +86,8 @@ bool SentDocuments::record(const QVector<ExportInvoices::File> &files, const QSt
     const QString now = QDateTime::currentDateTimeUtc().toString(Qt::ISODate);
     for (const ExportInvoices::File &file : files) {
         QFile document(file.fileName);
-        if (file.fileName.isEmpty() || !document.open(QIODevice::ReadOnly))
-            continue; // refused, or its script took it down
+        if (file.fileName.isEmpty() || !file.exception.isEmpty() || !document.open(QIODevice::ReadOnly))
+            continue; // refused, or its script did not come to its end
         QCryptographicHash hash(QCryptographicHash::Sha256);
         if (!hash.addData(&document))
             return m_task.session.fail(Failure::fileUnreadable, {file.fileName, document.errorString()});

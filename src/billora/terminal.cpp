@@ -13,6 +13,8 @@ namespace {
 constexpr int usualWidth = 80;
 constexpr int leastWidth = 20;
 
+int lastOutputError = 0;
+
 int columnsOf(uint codePoint)
 {
     if (codePoint < 0x300) // no locale is needed to know these
@@ -78,13 +80,18 @@ bool Terminal::write(int descriptor, const QByteArray &bytes)
             ::poll(&wait, 1, -1);
             continue;
         }
-        if (written <= 0)
+        if (written <= 0) {
+            if (descriptor == STDOUT_FILENO && errno != EPIPE)
+                lastOutputError = errno;
             return false;
+        }
         rest += written;
         length -= written;
     }
     return true;
 }
+
+QString Terminal::outputError() { return lastOutputError == 0 ? QString() : qt_error_string(lastOutputError); }
 
 void Terminal::writeError(const QString &line)
 {

@@ -17,8 +17,10 @@ int width(const QString &text);
 /** The text cut to so many columns, the last of them "…" where something was cut. */
 QString fitted(const QString &text, int columns);
 
-/** Writes all bytes, however slowly the reader takes them. @return false when nobody reads any more */
+/** Writes all bytes, however slowly the reader takes them. @return false when they cannot be written */
 bool write(int descriptor, const QByteArray &bytes);
+/** Why standard output could not be written, as of a full disk; empty when all was, or nobody reads any more. */
+QString outputError();
 /** Writes a line, in the locale's character set, to standard error. */
 void writeError(const QString &line);
 

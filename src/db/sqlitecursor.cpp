@@ -1,6 +1,7 @@
 #include "sqlitecursor.h"
 
 #include "isodate.h"
+#include "localetext.h"
 
 #include <sqlite3.h>
 
@@ -22,15 +23,15 @@ QString storedText(sqlite3_stmt *statement, int column)
 {
     const char *bytes = reinterpret_cast<const char *>(sqlite3_column_text(statement, column));
     const int size = sqlite3_column_bytes(statement, column);
-    const bool hasMark = size > 0 && bytes[0] == '\xEF'; // a byte order mark would be dropped
-    const QString text = hasMark ? QString() : QString::fromUtf8(bytes, size);
-    return hasMark || text.contains(replacement) ? utf16Text(statement, column) : text;
+    const QString text = LocaleText::fromUtf8(bytes, size);
+    return text.contains(replacement) ? utf16Text(statement, column) : text;
 }
 
-int bindText(sqlite3_stmt *statement, int mark, const QString &text, sqlite3_destructor_type owner)
+/** In UTF-8: of UTF-16 the database would take a first character for a byte order mark. */
+int bindText(sqlite3_stmt *statement, int mark, const QString &text)
 {
-    const int size = text.size() * static_cast<int>(sizeof(QChar));
-    return sqlite3_bind_text16(statement, mark, text.constData(), size, owner);
+    const QByteArray bytes = text.toUtf8();
+    return sqlite3_bind_text(statement, mark, bytes.constData(), bytes.size(), SQLITE_TRANSIENT);
 }
 
 } // namespace
@@ -85,13 +86,13 @@ bool SQLiteCursor::bind(const QVariantList &values)
         } else if (value.userType() == QMetaType::LongLong) {
             result = sqlite3_bind_int64(m_statement, mark, value.toLongLong());
         } else if (value.userType() == QMetaType::QString) {
-            result = bindText(m_statement, mark, *static_cast<const QString *>(value.constData()), SQLITE_STATIC);
+            result = bindText(m_statement, mark, *static_cast<const QString *>(value.constData()));
         } else if (value.userType() == QMetaType::QDate) {
             QString text;
             IsoDate::appendTo(text, value.toDate());
-            result = bindText(m_statement, mark, text.isEmpty() ? value.toString() : text, SQLITE_TRANSIENT);
+            result = bindText(m_statement, mark, text.isEmpty() ? value.toString() : text);
         } else {
-            result = bindText(m_statement, mark, value.toString(), SQLITE_TRANSIENT);
+            result = bindText(m_statement, mark, value.toString());
         }
         isBound = isBound && result == SQLITE_OK;
     }
@@ -115,8 +116,7 @@ bool SQLiteCursor::execute(const QString &sql, const QVariantList &values)
     finish(); // what was not read of the statement before must not keep its table locked
     m_error.clear();
     m_statement = prepared(sql);
-    m_values = values;
-    if (!m_statement || !bind(m_values) || !step())
+    if (!m_statement || !bind(values) || !step())
         return false;
     m_isFirst = m_isOnRow;
     return true;

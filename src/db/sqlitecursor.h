@@ -48,7 +48,6 @@ private:
     sqlite3_stmt *m_statement = nullptr;         ///< the last one; null when it could not be prepared
     bool m_isOnRow = false;                      ///< the statement stands on a row
     bool m_isFirst = false;                      ///< which next() has not reached yet
-    QVariantList m_values;                       ///< of the last statement, which may refer to their texts
     QString m_error;                             ///< of the last operation, empty when it went well
 };
 

@@ -132,11 +132,13 @@ bool SQLiteDatabase::backupTo(const QString &filename)
     QFile target(QFileInfo(filename).absoluteFilePath());
     if (!target.open(QIODevice::WriteOnly | QIODevice::NewOnly))
         return fail(tr("Tiedostoa %1 ei voi kirjoittaa: %2").arg(filename, target.errorString()));
-    target.setPermissions(QFile::permissions(m_fileName));
+    target.setPermissions(QFile::ReadOwner | QFile::WriteOwner);
     target.close();
     SQLiteCursor copy(m_handle.get());
-    if (copy.execute(QStringLiteral("VACUUM INTO ?"), {target.fileName()}))
+    if (copy.execute(QStringLiteral("VACUUM INTO ?"), {target.fileName()})) {
+        target.setPermissions(QFile::permissions(m_fileName)); // perhaps those of one that must not be written
         return true;
+    }
     target.remove();
     return fail(tr("Tiedostoa %1 ei voi kirjoittaa: %2").arg(filename, copy.lastError()));
 }

@@ -11,6 +11,8 @@ ReservedName::ReservedName(const std::function<QString()> &nextName, bool makesF
     const auto make = [this] {
         QFile file(m_name);
         m_isMade = file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
+        if (m_isMade)
+            m_unfinished.emplace(m_name);
         return m_isMade;
     };
     int triesLeft = 1000;

@@ -1,9 +1,12 @@
 #ifndef RESERVEDNAME_H
 #define RESERVEDNAME_H
 
+#include "unfinishedfile.h"
+
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 /**
  * A file name that nobody has: the empty file of the name is made at once, so that two exports to one name do not
@@ -34,6 +37,7 @@ public:
 private:
     QString m_name;
     bool m_isMade = false;
+    std::optional<UnfinishedFile> m_unfinished; ///< where it was made
 };
 
 #endif

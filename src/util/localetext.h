@@ -3,11 +3,13 @@
 
 #include <QString>
 
-/** Bytes in the locale's character set, as words and lines come in. */
+/** Bytes as texts, with every character of them. */
 namespace LocaleText {
 
-/** @return every character, a leading U+FEFF too; what is not valid becomes U+FFFD */
+/** Of the locale's character set, as words and lines come in. What is not valid becomes U+FFFD. */
 QString decode(const char *bytes, int length);
+/** As QString::fromUtf8(), which drops a U+FEFF at the start. */
+QString fromUtf8(const char *bytes, int length);
 
 } // namespace LocaleText
 

@@ -38,8 +38,7 @@ void ProgramStart::prepare()
 {
     openClosedDescriptors();
     qInstallMessageHandler(handleMessage);
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // whatever a desktop sets for its windows: documents have none
     std::setlocale(LC_ALL, "");
     if (std::strcmp(nl_langinfo(CODESET), "ANSI_X3.4-1968") == 0)
         QTextCodec::setCodecForLocale(QTextCodec::codecForName("UTF-8"));

@@ -33,6 +33,7 @@ ReplacedFile::ReplacedFile(const QString &fileName) : m_fileName(fileName)
     // A name of its own length: the file's may be as long as the file system takes.
     // Nobody can guess it and put a link there.
     m_temporary = QStringLiteral("%1/%2%3.tmp").arg(QFileInfo(m_target).absolutePath(), prefix(), randomText());
+    m_unfinished.emplace(m_temporary);
 }
 
 ReplacedFile::~ReplacedFile()

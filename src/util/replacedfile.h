@@ -1,7 +1,11 @@
 #ifndef REPLACEDFILE_H
 #define REPLACEDFILE_H
 
+#include "unfinishedfile.h"
+
 #include <QString>
+
+#include <optional>
 
 /**
  * A file that is written beside its place and put there when it is whole: until then an existing file stays as it was,
@@ -40,6 +44,7 @@ private:
     QString m_target;         ///< the file behind a symbolic link
     QString m_temporary;      ///< a random name in the folder of m_target
     QString m_errorString;
+    std::optional<UnfinishedFile> m_unfinished; ///< of the temporary
 };
 
 #endif

@@ -56,6 +56,8 @@ struct Kind {
         return true;
     }
 
+    static bool complete(Task &, AccountRecord &) { return true; }
+
     static QString nextStep(const BankAccount &) { return QString(); }
     static bool remark(Task &, const QVector<AccountRecord> &, QString &) { return true; }
 };

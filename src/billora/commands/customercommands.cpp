@@ -110,6 +110,15 @@ struct Kind {
         return (query->fetchCustomersByNumber(number) && query->readAll(take)) || task.context().session.failQuery();
     }
 
+    static bool complete(Task &task, CustomerRecord &record)
+    {
+        QVector<CustomerRecord> records = {record};
+        if (!addBalances(task, records))
+            return false;
+        record = records.first();
+        return true;
+    }
+
     static QString nextStep(const Customer &customer)
     {
         return QStringLiteral("billora invoice add %1 --row \"...\"").arg(customer.number);

@@ -69,8 +69,11 @@ constexpr char savedSentence[] = TEXT("Lasku %1 lisätty: %2, %3, eräpäivä %4
 constexpr char changedSentence[] = TEXT("Lasku %1 muutettu: %2, %3, eräpäivä %4, viite %5");
 constexpr char creditedSentence[] = TEXT("Hyvityslasku %1 lisätty: %2, %3, eräpäivä %4, viite %5");
 
-/** The PDF of an invoice that was just made. */
-bool exportNew(Task &task, int id)
+/**
+ * The PDF of an invoice that was just made. Within its transaction: without the document the invoice is not made
+ * either.
+ */
+bool exportNew(Task &task, int id, SentDocuments &sent, QVector<ExportInvoices::File> &files)
 {
     ExportInvoices::Request request;
     request.criteria.id = id;
@@ -78,30 +81,42 @@ bool exportNew(Task &task, int id)
     InvoiceSelection selection;
     selection.ids.append(id);
     selection.today = task.reader.today();
-    SentDocuments sent(task);
-    QVector<ExportInvoices::File> files;
-    if ((!request.isTrial && !sent.prepare(selection)) || !ExportInvoices::run(task.context(), request, files) ||
-        (!request.isTrial && !sent.record(files)))
-        return false;
-    for (const ExportInvoices::File &file : qAsConst(files)) {
-        if (task.answer.wantsSentences())
-            task.answer.line(file.fileName);
-    }
-    return true;
+    DatabaseSession &session = task.context().session;
+    const bool wasEnclosed = session.isEnclosed();
+    session.setEnclosed(true);
+    const bool isMade =
+        (request.isTrial || sent.prepare(selection)) && ExportInvoices::run(task.context(), request, files);
+    session.setEnclosed(wasEnclosed);
+    if (!isMade || files.first().exception.isEmpty())
+        return isMade;
+    QFile::remove(files.first().fileName);
+    return task.session.fail(Failure::scriptException, files.first().exception);
 }
 
-/** Ends the making of an invoice: its rows, the answer, and the commit between them. */
+/** Ends the making of an invoice: its rows, its document, the answer, and the commit between them. */
 bool finish(Task &task, InvoiceEditor &editor, QVector<InvoiceItem> &rows, WriteTransaction &transaction,
             const char *sentence)
 {
     if (!RecordEditing::addInvoice(task.context(), editor, rows))
         return false;
     const InvoiceRecord record = InvoiceReader::ofSaved(task, editor.invoice(), editor.customer(), rows);
-    if (!transaction.commit() || !answer(task, record, sentence))
+    SentDocuments sent(task);
+    QVector<ExportInvoices::File> files;
+    const bool isExported = task.flag("export");
+    if (isExported && !exportNew(task, record.invoice.id, sent, files))
         return false;
-    if (task.flag("export") && !exportNew(task, record.invoice.id))
+    if (!transaction.commit()) {
+        for (const ExportInvoices::File &file : qAsConst(files))
+            QFile::remove(file.fileName);
         return false;
-    if (!task.flag("export"))
+    }
+    if ((isExported && !task.manners.isDryRun && !sent.record(files)) || !answer(task, record, sentence))
+        return false;
+    for (const ExportInvoices::File &file : qAsConst(files)) {
+        if (task.answer.wantsSentences())
+            task.answer.line(file.fileName);
+    }
+    if (!isExported)
         task.answer.hint(text(TEXT("Seuraavaksi: ")) +
                          QStringLiteral("billora invoice export %1").arg(record.invoice.number));
     return true;

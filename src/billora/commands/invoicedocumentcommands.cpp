@@ -232,6 +232,10 @@ bool exportDocuments(Task &task)
         return task.fail(Problem::notFound, text(TEXT("yhtään laskua ei löytynyt")), QStringLiteral("invoices"));
     if (request.fileName == QLatin1String("-"))
         return exportToOutput(task, request, isForSending ? &sent : nullptr);
+    const QFileInfo place(request.fileName);
+    if (place.exists() && !place.isDir() && (!place.isFile() || place.absolutePath() == QLatin1String("/dev")))
+        return task.session.fail(Failure::fileUnwritable,
+                                 {request.fileName, text(TEXT("se ei ole tavallinen tiedosto"))});
     const QString csvName = request.fileName.isEmpty() ? QStringLiteral("laskut.csv") : request.fileName;
     if (isCsv && QFileInfo::exists(csvName))
         return task.session.fail(Failure::fileExists, {csvName});

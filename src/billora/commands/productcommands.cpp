@@ -77,6 +77,8 @@ struct Kind {
                task.context().session.failQuery();
     }
 
+    static bool complete(Task &, ProductRecord &) { return true; }
+
     static QString nextStep(const Product &) { return QString(); }
     static bool remark(Task &, const QVector<ProductRecord> &, QString &) { return true; }
 };

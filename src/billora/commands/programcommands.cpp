@@ -122,6 +122,9 @@ bool batch(Task &task)
     options.isEach = task.flag("each");
     options.manners = task.manners;
     options.key = task.answer.options().key;
+    if (options.isEach && !options.key.isEmpty()) // each line has its own
+        return task.fail(Problem::conflict, text(TEXT("valinnat --each ja --key sulkevat toisensa pois")),
+                         QStringLiteral("key"), options.key);
     Batch batch(task.session, options, [](const QByteArray &line) { return Terminal::write(STDOUT_FILENO, line); });
     const int code = batch.run();
     if (code < 0)

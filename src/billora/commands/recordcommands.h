@@ -22,6 +22,7 @@
  *     check(task, stored, earlier)        what the fields must fulfil together; earlier is null for a new one
  *     added, changed, removing            sentences with the handle in "%1" and the name in "%2"
  *     nextStep(stored)                    a command line, empty for none
+ *     complete(task, record)              reads what the record tells of other tables
  */
 namespace RecordCommands {
 
@@ -73,7 +74,7 @@ bool change(Task &task, const QString &word, const Arguments &given, const typen
         return false;
     typename Kind::Record record;
     auto &stored = record.*Kind::part;
-    if (!Kind::find(task, Kind::word, word, stored))
+    if (!Kind::find(task, Kind::word, word, stored) || !Kind::complete(task, record))
         return false;
     const auto json = [](const typename Kind::Record &shown) {
         QByteArray bytes;
@@ -108,7 +109,7 @@ template <class Kind> bool edit(Task &task)
     if (!task.manners.isInteractive)
         return task.fail(Problem::missingOption, text(TEXT("mitä muutetaan? Anna kenttiä valintoina")));
     typename Kind::Record seen;
-    if (!Kind::find(task, Kind::word, word, seen.*Kind::part))
+    if (!Kind::find(task, Kind::word, word, seen.*Kind::part) || !Kind::complete(task, seen))
         return false;
     bool isUnchanged = false;
     const QString id = QStringLiteral("id:%1").arg((seen.*Kind::part).id);

@@ -8,11 +8,14 @@
 #include "task.h"
 
 #include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 
 namespace {
 
 constexpr Option fileOptions[] = {
-    {"output", ValueType::file, TEXT("tiedoston nimi; sen pääte on muoto, .pdf tai .csv"), 0, nullptr, 'o', "FILE"},
+    {"output", ValueType::file, TEXT("tiedoston nimi; sen pääte on muoto, .pdf tai .csv; - on vakiotuloste"), 0,
+     nullptr, 'o', "FILE"},
     {"columns", ValueType::text, TEXT("sarakkeet, pilkuin erotettuina"), 0, nullptr, 0, "COLUMNS"},
     {"landscape", ValueType::flag, TEXT("sivu vaakaan")},
     {"csvDelimiter", ValueType::text, TEXT("CSV-tiedoston erotin")},
@@ -48,6 +51,23 @@ int columnOf(Task &task, ExportList::Kind kind, const char *option, const QStrin
     return -1;
 }
 
+/** By way of a folder of its own. */
+bool writeToOutput(Task &task, ExportList::Kind kind, ExportList::Request &request)
+{
+    const QTemporaryDir folder;
+    if (!folder.isValid())
+        return task.fail(Problem::file, folder.errorString());
+    request.fileName = folder.filePath(QLatin1String("list.pdf"));
+    QString fileName;
+    if (!ExportList::run(task.context(), kind, request, fileName))
+        return false;
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return task.fail(Problem::file, file.errorString());
+    task.answer.bytes(file.readAll());
+    return true;
+}
+
 bool run(Task &task, ExportList::Kind kind, ExportList::Request &request)
 {
     if (task.arguments.has("sort")) {
@@ -75,6 +95,8 @@ bool run(Task &task, ExportList::Kind kind, ExportList::Request &request)
     request.makesFolders = true;
     request.isTrial = task.manners.isDryRun;
     FileRecord record;
+    if (request.fileName == QLatin1String("-") && !request.isTrial)
+        return writeToOutput(task, kind, request);
     if (!ExportList::run(task.context(), kind, request, record.fileName))
         return false;
     if (task.answer.wantsSentences()) {

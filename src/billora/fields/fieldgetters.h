@@ -3,6 +3,7 @@
 
 #include "field.h"
 #include "valuereader.h"
+#include "vat.h"
 
 #include <functional>
 
@@ -22,6 +23,21 @@ template <class Record, class Part, Part Record::*part, auto member> struct Part
 
 /** For Field::get: a part's member. */
 template <auto part, auto member> constexpr auto partValue = &PartGetter<part, member>::get;
+
+/**
+ * The unit price of a product or row without or with VAT. Of one with four significant decimals the conversion that the
+ * documents of this system share gives a tenth, see Vat::roundWithSamePrecision(); here it is the price.
+ */
+template <class Part> long long priceVatExcluded(const Part &part)
+{
+    const bool isWhole = part.vatExcluded || part.amount % 10 == 0;
+    return isWhole ? part.amountVatExcluded() : Vat::substractVat(part.amount, part.vatRate);
+}
+template <class Part> long long priceVatIncluded(const Part &part)
+{
+    const bool isWhole = !part.vatExcluded || part.amount % 10 == 0;
+    return isWhole ? part.amountVatIncluded() : Vat::addVat(part.amount, part.vatRate);
+}
 
 /** As PartGetter, for a record whose value is not in a part; members only. */
 template <auto member> struct Getter;
