@@ -330,7 +330,7 @@ bool Answer::saved(const RecordTable &table, const void *record, const QString &
 {
     if (!wantsSentences())
         return show(table, record, sink);
-    line(m_options.isDryRun ? sentence + QStringLiteral(" (--dry-run)") : sentence);
+    doneLine(sentence);
     return true;
 }
 
@@ -338,7 +338,7 @@ void Answer::object(const std::function<void(JsonWriter &)> &members, const QStr
 {
     if (m_options.form == OutputForm::text) {
         if (!m_options.quiet)
-            line(m_options.isDryRun ? sentence + QStringLiteral(" (--dry-run)") : sentence);
+            doneLine(sentence);
         return;
     }
     const bool isElement = m_hasCompanies && m_options.form == OutputForm::json;
@@ -387,6 +387,8 @@ void Answer::removed(const QStringList &handles)
 }
 
 void Answer::line(const QString &text) { m_buffer += text.toUtf8() + '\n'; }
+
+void Answer::doneLine(const QString &text) { line(m_options.isDryRun ? text + QStringLiteral(" (--dry-run)") : text); }
 
 void Answer::hint(const QString &text)
 {

@@ -82,6 +82,8 @@ public:
     void bytes(const QByteArray &document) { m_buffer += document; }
     /** A line of text for people. */
     void line(const QString &text);
+    /** The same of something that was done: a trial says that it was not. */
+    void doneLine(const QString &text);
     /** What to do next; only a person at a terminal is told. */
     void hint(const QString &text);
 

@@ -114,7 +114,7 @@ bool finish(Task &task, InvoiceEditor &editor, QVector<InvoiceItem> &rows, Write
         return false;
     for (const ExportInvoices::File &file : qAsConst(files)) {
         if (task.answer.wantsSentences())
-            task.answer.line(file.fileName);
+            task.answer.doneLine(file.fileName);
     }
     if (!isExported)
         task.answer.hint(text(TEXT("Seuraavaksi: ")) +

@@ -270,7 +270,7 @@ bool exportDocuments(Task &task)
             task.exitCode = exitNeedsLook;
         }
         if (isPlain)
-            task.answer.line(
+            task.answer.doneLine(
                 record.fileName.isEmpty()
                     ? text(TEXT("Laskua %1 ei viety: %2")).arg(QString::number(record.invoiceNumber), record.error)
                 : record.error.isEmpty() ? record.fileName

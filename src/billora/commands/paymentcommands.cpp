@@ -243,8 +243,8 @@ bool importFiles(Task &task)
     }
     task.answer.endList();
     if (task.answer.options().isTerminal && task.answer.wantsSentences())
-        task.answer.line(text(TEXT("Tallennettu %1 (%2), kohdistamatta %3."))
-                             .arg(QString::number(saved), ValueWriter::money(sum), QString::number(open)));
+        task.answer.doneLine(text(TEXT("Tallennettu %1 (%2), kohdistamatta %3."))
+                                 .arg(QString::number(saved), ValueWriter::money(sum), QString::number(open)));
     return true;
 }
 

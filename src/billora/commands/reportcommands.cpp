@@ -100,7 +100,7 @@ bool run(Task &task, ExportList::Kind kind, ExportList::Request &request)
     if (!ExportList::run(task.context(), kind, request, record.fileName))
         return false;
     if (task.answer.wantsSentences()) {
-        task.answer.line(record.fileName);
+        task.answer.doneLine(record.fileName);
         return true;
     }
     if (!task.answer.beginList(fileTable, task.session))

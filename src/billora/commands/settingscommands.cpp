@@ -159,7 +159,7 @@ bool save(Task &task, const QVector<Change> &changes)
     if (!task.answer.wantsSentences())
         return answer(task, settings, keys);
     for (const QString &key : qAsConst(keys))
-        task.answer.line(key + QLatin1String(" = ") + recordOf(task, settings, key).value);
+        task.answer.doneLine(key + QLatin1String(" = ") + recordOf(task, settings, key).value);
     return true;
 }
 
