@@ -1276,6 +1276,10 @@ Overdue %4, %5</translation>
         <translation>give TITLE=FIELD</translation>
     </message>
     <message>
+        <source>rivin %1 lainausmerkit eivät täsmää</source>
+        <translation>the quotes of line %1 do not match</translation>
+    </message>
+    <message>
         <source>tiedostossa ei ole otsikkoriviä</source>
         <translation>the file has no title line</translation>
     </message>
@@ -1634,6 +1638,10 @@ Overdue %4, %5</translation>
     <message>
         <source>ruotsi</source>
         <translation>Swedish</translation>
+    </message>
+    <message>
+        <source>luvun pitää olla vähintään 0</source>
+        <translation>the number must be at least 0</translation>
     </message>
     <message>
         <source>asiakasnumero; seuraava, jos sitä ei anneta</source>
@@ -2512,10 +2520,6 @@ NO_COLOR TERM COLUMNS VISUAL EDITOR TMPDIR XDG_CONFIG_HOME XDG_DATA_HOME as else
     <message>
         <source>kentän mukaan ei voi järjestää: %1</source>
         <translation>cannot be sorted by: %1</translation>
-    </message>
-    <message>
-        <source>luvun pitää olla vähintään 0</source>
-        <translation>the number must be at least 0</translation>
     </message>
     <message>
         <source>mitkä laskut? Anna numeroita, ehtoja tai valinta --all</source>

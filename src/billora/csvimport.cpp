@@ -37,15 +37,22 @@ struct CsvLine {
     QStringList cells;
 };
 
-/** Takes a text apart; a quoted cell may hold delimiters and line ends. */
-QVector<CsvLine> parse(const QString &text, QChar delimiter)
+/**
+ * Takes a text apart; a quoted cell may hold delimiters and line ends.
+ * @param badLine  where a quote is that nothing closes, or that more than its cell's end follows; 0: none
+ */
+QVector<CsvLine> parse(const QString &text, QChar delimiter, int &badLine)
 {
     QVector<CsvLine> lines;
+    bool wasQuoted = false; // the cell, up to its end
+    badLine = 0;
     CsvLine line = {1, {}};
     QString cell;
     bool isQuoted = false;
     int number = 1;
+    int quoteLine = 0;
     const auto endLine = [&] {
+        wasQuoted = false;
         line.cells.append(cell);
         cell.clear();
         const bool isEmpty =
@@ -65,17 +72,23 @@ QVector<CsvLine> parse(const QString &text, QChar delimiter)
                 cell += text.at(++i);
             else
                 isQuoted = false;
-        } else if (c == QLatin1Char('"') && cell.isEmpty()) {
-            isQuoted = true;
+        } else if (c == QLatin1Char('"') && cell.isEmpty() && !wasQuoted) {
+            isQuoted = wasQuoted = true;
+            quoteLine = number;
         } else if (c == delimiter) {
+            wasQuoted = false;
             line.cells.append(cell);
             cell.clear();
         } else if (c == QLatin1Char('\n')) {
             endLine();
         } else if (c != QLatin1Char('\r')) {
+            if (wasQuoted && badLine == 0)
+                badLine = number;
             cell += c;
         }
     }
+    if (isQuoted && badLine == 0)
+        badLine = quoteLine;
     if (!cell.isEmpty() || !line.cells.isEmpty())
         endLine();
     return lines;
@@ -119,7 +132,11 @@ bool CsvImport::read(Task &task, const RecordTable &table, const QString &fileNa
     QString content = decoded(file.readAll());
     if (content.startsWith(QChar(QChar::ByteOrderMark)))
         content.remove(0, 1);
-    const QVector<CsvLine> read = parse(content, delimiterOf(content));
+    int badLine = 0;
+    const QVector<CsvLine> read = parse(content, delimiterOf(content), badLine);
+    if (badLine > 0)
+        return task.fail(Problem::badValue, text(TEXT("rivin %1 lainausmerkit eivät täsmää")).arg(badLine),
+                         QStringLiteral("file"), fileName);
     QHash<QString, QString> map;
     if (!readMap(task, table, map))
         return false;

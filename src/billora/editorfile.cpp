@@ -46,7 +46,7 @@ QStringList linesOf(const RecordTable &table, const void *record, const QStringL
     }
     if (rows) {
         for (const QString &row : *rows)
-            lines.append(QLatin1String("row: ") + row);
+            lines.append(QLatin1String("row: ") + escaped(row));
     }
     return lines;
 }
@@ -124,7 +124,7 @@ bool EditorFile::edit(Task &task, const RecordTable &table, const void *record, 
     for (;;) {
         QStringList shown;
         if (!reason.isEmpty())
-            shown.append(QLatin1String("# ") + reason);
+            shown.append(QLatin1String("# ") + QString(reason).replace(QLatin1Char('\n'), QLatin1String("\n# ")));
         shown.append(QLatin1String("# ") +
                      text(TEXT("Tallenna ja sulje; tyhjä tai muuttamaton tiedosto ei muuta mitään.")));
         if (rows)

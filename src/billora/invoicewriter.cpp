@@ -9,6 +9,8 @@
 #include "texts.h"
 #include "valuewriter.h"
 
+#include <algorithm>
+
 namespace {
 
 bool isTaken(Task &task, int number, int ownId, bool &taken)
@@ -67,13 +69,28 @@ bool applyDates(Task &task, const Arguments &given, InvoiceEditor &editor)
            task.reader.date(QStringLiteral("dueDate"), given.text("dueDate"), editor.invoice().dueDate, true);
 }
 
+/** As RowWords reads it again. */
 QString quoted(const QString &value)
 {
-    const bool isPlain = !value.isEmpty() && !value.contains(QLatin1Char(' ')) && !value.contains(QLatin1Char('"')) &&
-                         !value.contains(QLatin1Char('\'')) && !value.contains(QLatin1Char('\t'));
+    const QLatin1Char quote('"'), backslash('\\');
+    const bool isPlain = !value.isEmpty() && std::none_of(value.begin(), value.end(), [&](QChar c) {
+        return c.isSpace() || c == quote || c == QLatin1Char('\'') || c == backslash;
+    });
     if (isPlain)
         return value;
-    return QLatin1Char('"') + QString(value).replace(QLatin1Char('"'), QLatin1String("\\\"")) + QLatin1Char('"');
+    QString text = value;
+    text.replace(backslash, QLatin1String("\\\\")).replace(quote, QLatin1String("\\\""));
+    return quote + text + quote;
+}
+
+/** The last of a row, which goes on to its end: quoted only where blanks or quotes at its ends would be lost. */
+QString quotedText(const QString &text)
+{
+    const auto isLost = [](QChar c) { return c.isSpace() || c == QLatin1Char('"') || c == QLatin1Char('\''); };
+    if (!isLost(text.at(0)) && !isLost(text.at(text.size() - 1)))
+        return text;
+    const QChar quote = text.contains(QLatin1Char('"')) ? QLatin1Char('\'') : QLatin1Char('"');
+    return quote + text + quote;
 }
 
 } // namespace
@@ -151,9 +168,7 @@ QStringList InvoiceWriter::rowLines(const InvoiceRecord &record)
                 line += QLatin1Char(' ') + QLatin1String(name) + QLatin1Char('=') + quoted(value);
         }
         if (!row.item.text.isEmpty())
-            line += QLatin1String(" text=") + QString(row.item.text)
-                                                  .replace(QLatin1Char('\\'), QLatin1String("\\\\"))
-                                                  .replace(QLatin1Char('\n'), QLatin1String("\\n"));
+            line += QLatin1String(" text=") + quotedText(row.item.text);
         lines.append(line);
     }
     return lines;

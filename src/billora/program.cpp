@@ -22,7 +22,7 @@ namespace {
 /** Options such as `-c FILE` stand in front of it. */
 constexpr int maxWordsBeforeComplete = 4;
 
-bool isGiven(const Arguments &global, const char *flag) { return global.text(flag) == QLatin1String("true"); }
+bool isGiven(const Arguments &global, const char *flag) { return ValueReader::isTrue(global.text(flag)); }
 
 bool writeOutput(const QByteArray &bytes) { return Terminal::write(STDOUT_FILENO, bytes); }
 
@@ -119,7 +119,11 @@ int Program::run(const QStringList &words)
     QString settingsFile = line.global.text("config");
     if (settingsFile.isEmpty())
         settingsFile = qEnvironmentVariable("BILLORA_CONFIG");
-    const bool hasHelp = words.isEmpty() || isGiven(line.global, "help");
+    // What is wrong with the line does not keep the help from who asks for it.
+    const QStringList options = words.mid(0, words.indexOf(QStringLiteral("--")));
+    const bool asksForHelp =
+        line.problem.isSet() && (options.contains(QStringLiteral("-h")) || options.contains(QStringLiteral("--help")));
+    const bool hasHelp = words.isEmpty() || isGiven(line.global, "help") || asksForHelp;
     if (!hasHelp && isGiven(line.global, "version")) { // needs no settings
         print(QStringLiteral("billora " BILLORA_VERSION "\n"));
         return 0;

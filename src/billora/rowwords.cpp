@@ -15,8 +15,10 @@ QString takePart(const QString &text, int &at)
     for (; at < text.size(); ++at) {
         const QChar c = text.at(at);
         const bool isQuote = c == QLatin1Char('"') || c == QLatin1Char('\'');
-        if (c == QLatin1Char('\\') && at + 1 < text.size() &&
-            (text.at(at + 1) == QLatin1Char('"') || text.at(at + 1) == QLatin1Char('\'')))
+        const QChar next = at + 1 < text.size() ? text.at(at + 1) : QChar();
+        const bool isEscape = next == QLatin1Char('"') || next == QLatin1Char('\'') ||
+                              (next == QLatin1Char('\\') && !quote.isNull()); // a name may end with it
+        if (c == QLatin1Char('\\') && isEscape)
             part += text.at(++at);
         else if (!quote.isNull() && c == quote)
             quote = QChar();

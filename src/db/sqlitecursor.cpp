@@ -116,8 +116,14 @@ bool SQLiteCursor::execute(const QString &sql, const QVariantList &values)
     finish(); // what was not read of the statement before must not keep its table locked
     m_error.clear();
     m_statement = prepared(sql);
-    if (!m_statement || !bind(values) || !step())
+    m_wasPrepared = m_statement;
+    if (!m_statement)
         return false;
+    if (!bind(values) || !step()) { // perhaps for what the schema is now: the next time it is prepared anew
+        sqlite3_finalize(m_statements.take(sql));
+        m_statement = nullptr;
+        return false;
+    }
     m_isFirst = m_isOnRow;
     return true;
 }

@@ -22,7 +22,7 @@ public:
 
     /** As Cursor has them; a statement waits for another program's lock as long as the connection does. */
     bool execute(const QString &sql, const QVariantList &values) override;
-    bool wasPrepared() const override { return m_statement; }
+    bool wasPrepared() const override { return m_wasPrepared; }
     bool next() override;
     void finish() override;
     bool hasError() const override { return !m_error.isEmpty(); }
@@ -46,6 +46,7 @@ private:
     sqlite3 *const m_handle;                     ///< not owned
     QHash<QString, sqlite3_stmt *> m_statements; ///< the kept ones by their text, owned
     sqlite3_stmt *m_statement = nullptr;         ///< the last one; null when it could not be prepared
+    bool m_wasPrepared = true;                   ///< see wasPrepared()
     bool m_isOnRow = false;                      ///< the statement stands on a row
     bool m_isFirst = false;                      ///< which next() has not reached yet
     QString m_error;                             ///< of the last operation, empty when it went well

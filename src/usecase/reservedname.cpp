@@ -9,6 +9,7 @@
 ReservedName::ReservedName(const std::function<QString()> &nextName, bool makesFolders)
 {
     const auto make = [this] {
+        const SignalPause pause;
         QFile file(m_name);
         m_isMade = file.open(QIODevice::WriteOnly | QIODevice::NewOnly);
         if (m_isMade)

@@ -2,7 +2,6 @@
 
 #include <QFile>
 
-#include <csignal>
 #include <cstring>
 #include <unistd.h>
 
@@ -10,6 +9,7 @@ namespace {
 
 constexpr int slotCount = 8;
 constexpr int longestName = 4096;
+constexpr int watchedSignals[] = {SIGINT, SIGTERM, SIGHUP};
 
 // What the handler reads: plain memory. A name counts once its first byte stands.
 char names[slotCount][longestName];
@@ -27,7 +27,7 @@ void removeFiles(int signal)
 /** A signal that is ignored, as under nohup, stays so. */
 void watchSignals()
 {
-    for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
+    for (const int signal : watchedSignals) {
         struct sigaction present = {};
         if (::sigaction(signal, nullptr, &present) != 0 || present.sa_handler != SIG_DFL)
             continue;
@@ -38,6 +38,17 @@ void watchSignals()
 }
 
 } // namespace
+
+SignalPause::SignalPause()
+{
+    sigset_t paused;
+    sigemptyset(&paused);
+    for (const int signal : watchedSignals)
+        sigaddset(&paused, signal);
+    ::sigprocmask(SIG_BLOCK, &paused, &m_earlier);
+}
+
+SignalPause::~SignalPause() { ::sigprocmask(SIG_SETMASK, &m_earlier, nullptr); }
 
 UnfinishedFile::UnfinishedFile(const QString &name)
 {

@@ -230,7 +230,7 @@ bool exportDocuments(Task &task)
         return false;
     if (!isAny && sent.isEmpty())
         return task.fail(Problem::notFound, text(TEXT("yhtään laskua ei löytynyt")), QStringLiteral("invoices"));
-    if (request.fileName == QLatin1String("-"))
+    if (request.fileName == QLatin1String("-") && !request.isTrial)
         return exportToOutput(task, request, isForSending ? &sent : nullptr);
     const QFileInfo place(request.fileName);
     if (place.exists() && !place.isDir() && (!place.isFile() || place.absolutePath() == QLatin1String("/dev")))

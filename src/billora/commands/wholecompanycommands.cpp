@@ -415,7 +415,7 @@ constexpr Command commands[] = {
     {"optimize",
      TEXT("puuttuvat hakemistot ja tilastot"),
      optimize,
-     Command::eachOnly,
+     Command::writes | Command::eachOnly,
      nullptr,
      nullptr,
      {},

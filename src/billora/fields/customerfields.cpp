@@ -39,13 +39,24 @@ Value language(const void *record)
     return code.isEmpty() ? Value() : Value(code.left(2));
 }
 
+bool setNumber(void *record, const ValueReader &reader, const Field &field, const QString &value)
+{
+    int number = 0;
+    if (!reader.number(field.name, field.type, value, number))
+        return false;
+    if (number < 0)
+        return reader.failValue(field.name, value, text(TEXT("luvun pitää olla vähintään 0")));
+    static_cast<Customer *>(record)->number = number;
+    return true;
+}
+
 constexpr Field fields[] = {
     {"id", ValueType::id, TEXT("Tunniste"), nullptr, Field::summary, partValue<part, &Customer::id>, nullptr, nullptr,
      nullptr, "id"},
     {"number", ValueType::integer, TEXT("Numero"), TEXT("asiakasnumero; seuraava, jos sitä ei anneta"),
      Field::summary | Field::editable | Field::handle,
-     [](const void *r) { return optionalNumber(static_cast<const R *>(r)->customer.number); },
-     setMember<Customer, &Customer::number>, nullptr, nullptr, "number"},
+     [](const void *r) { return optionalNumber(static_cast<const R *>(r)->customer.number); }, setNumber, nullptr,
+     nullptr, "number"},
     {"name", ValueType::text, TEXT("Nimi"), nullptr, Field::summary | Field::editable | Field::required,
      partValue<part, &Customer::name>, setMember<Customer, &Customer::name>, nullptr, nullptr, "name"},
     {"contact", ValueType::text, TEXT("Yhteyshenkilö"), nullptr, edited, partValue<part, &Customer::contact>,
