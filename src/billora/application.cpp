@@ -20,7 +20,7 @@ void *openModule()
 {
     constexpr char name[] = "billora-documents.so";
     const QString path =
-        QCoreApplication::applicationDirPath() + QLatin1String("/../lib/billora/") + QLatin1String(name);
+        QCoreApplication::applicationDirPath() + QLatin1String("/../lib/billora/modules/") + QLatin1String(name);
     void *module = ::dlopen(QFile::encodeName(path).constData(), RTLD_NOW);
     if (!module && !QFile::exists(path))
         module = ::dlopen(name, RTLD_NOW); // where the program was built, wherever it was copied to
