@@ -20,7 +20,7 @@ bool JournalTable::lock(QByteArray &head, QByteArray &last)
         return fail(query.lastError().text());
     while (query.next())
         (query.value(0).toInt() == 0 ? head : last) = query.value(1).toString().toUtf8();
-    return true;
+    return !query.lastError().isValid() || fail(query.lastError().text());
 }
 
 bool JournalTable::write(const QByteArray &, const QVector<Line> &lines, const QByteArray &head)
@@ -60,5 +60,5 @@ bool JournalTable::read(QByteArray &head, const Each &each, int invoiceId)
         else
             isWanted = each(text);
     }
-    return true;
+    return !query.lastError().isValid() || fail(query.lastError().text()); // a read that broke is not a shorter journal
 }
