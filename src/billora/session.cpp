@@ -56,14 +56,16 @@ bool Session::open()
     // Opened once; from then on a lost connection is the session's own matter.
     if (m_context->session.database())
         return m_context->session.ensureOpen();
+    if (!isNumber)
+        return m_context->session.openFile(m_database);
     const DatabaseList list(settingsFile(), DatabaseList::reading);
     const QList<QVariantMap> &entries = list.entries();
     const bool isListed = std::any_of(entries.begin(), entries.end(), [number](const QVariantMap &entry) {
         return DatabaseList::number(entry) == number;
     });
-    if (isNumber && !entries.isEmpty() && !isListed)
+    if (!entries.isEmpty() && !isListed)
         return fail(Failure::databaseNumberUnknown, {m_database});
-    return isNumber ? m_context->session.openDatabase(number, true) : m_context->session.openFile(m_database);
+    return m_context->session.openDatabase(number, true);
 }
 
 bool Session::fail(const Problem &problem)

@@ -3,6 +3,8 @@
 #include "prompt.h"
 #include "texts.h"
 
+#include <QFile>
+
 namespace {
 
 constexpr int manyRecords = 10;
@@ -23,6 +25,15 @@ bool Task::failSeveralCompanies()
 {
     return fail(Problem::conflict, text(TEXT("komento koskee yhtä yritystä kerrallaan")), QStringLiteral("db"),
                 session.chosenDatabase());
+}
+
+bool Task::answerWithFile(const QString &fileName)
+{
+    QFile file(fileName);
+    if (!file.open(QIODevice::ReadOnly))
+        return fail(Problem::file, file.errorString());
+    answer.bytes(file.readAll());
+    return true;
 }
 
 bool Task::confirm(const QString &question, int count, bool all)

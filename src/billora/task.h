@@ -45,6 +45,9 @@ public:
     /** Tells that what is to be done is done in one company at a time. @return false */
     bool failSeveralCompanies();
 
+    /** Answers with the bytes of a document that was made. @return false with the problem told */
+    bool answerWithFile(const QString &fileName);
+
     /** Whether a flag of the command was given. */
     bool flag(const char *name) const { return ValueReader::isTrue(arguments.text(name)); }
 

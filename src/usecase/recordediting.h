@@ -32,12 +32,12 @@ namespace RecordEditing {
  * @return tooLarge and failed with the failure told; the row is not saved when it cannot be stored
  */
 [[nodiscard]] InvoiceTotals::Outcome saveRow(UseCaseContext &context, InvoiceItem &row, int earlierInvoiceId);
-/** Adds rows behind those of an invoice, with one update of its total. */
-[[nodiscard]] bool addRows(UseCaseContext &context, int invoiceId, QVector<InvoiceItem> &rows);
-/** Saves the new invoice of an editor with its rows: its total is known before, and nothing is read again. */
-[[nodiscard]] bool addInvoice(UseCaseContext &context, InvoiceEditor &editor, QVector<InvoiceItem> &rows);
 /** The same for a payment. */
 [[nodiscard]] InvoiceTotals::Outcome savePayment(UseCaseContext &context, Payment &payment, int earlierInvoiceId);
+/** Saves the new invoice of an editor with its rows: its total is known before, and nothing is read again. */
+[[nodiscard]] bool addInvoice(UseCaseContext &context, InvoiceEditor &editor, QVector<InvoiceItem> &rows);
+/** Adds rows behind those of an invoice, with one update of its total. */
+[[nodiscard]] bool addRows(UseCaseContext &context, int invoiceId, QVector<InvoiceItem> &rows);
 
 /** Marks it removed: old payments and invoices go on referring to it. */
 [[nodiscard]] bool remove(UseCaseContext &context, BankAccount &account);

@@ -15,7 +15,6 @@
 #include "terminal.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 
@@ -176,13 +175,7 @@ bool exportToOutput(Task &task, ExportInvoices::Request request, SentDocuments *
     }
     if (!files.first().exception.isEmpty())
         return task.session.fail(Failure::scriptException, files.first().exception);
-    QFile file(files.first().fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return task.fail(Problem::file, file.errorString());
-    if (sent && !sent->record(files, QStringLiteral("-")))
-        return false;
-    task.answer.bytes(file.readAll());
-    return true;
+    return (!sent || sent->record(files, QStringLiteral("-"))) && task.answerWithFile(files.first().fileName);
 }
 
 bool exportDocuments(Task &task)

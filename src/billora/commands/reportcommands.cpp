@@ -8,7 +8,6 @@
 #include "task.h"
 
 #include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 namespace {
@@ -59,13 +58,7 @@ bool writeToOutput(Task &task, ExportList::Kind kind, ExportList::Request &reque
         return task.fail(Problem::file, folder.errorString());
     request.fileName = folder.filePath(QLatin1String("list.pdf"));
     QString fileName;
-    if (!ExportList::run(task.context(), kind, request, fileName))
-        return false;
-    QFile file(fileName);
-    if (!file.open(QIODevice::ReadOnly))
-        return task.fail(Problem::file, file.errorString());
-    task.answer.bytes(file.readAll());
-    return true;
+    return ExportList::run(task.context(), kind, request, fileName) && task.answerWithFile(fileName);
 }
 
 bool run(Task &task, ExportList::Kind kind, ExportList::Request &request)
